@@ -1,0 +1,1 @@
+// Nothing of its own: the test programs share the headers that are precompiled for this file.
