@@ -1,0 +1,13 @@
+#pragma once
+
+#include <string>
+
+#include "toolkit/clock.h"
+#include "workspace/survey_state.h"
+
+namespace veln {
+
+/// The text of `info.txt`: the record of field, survey and validation, mostly from the panels as their texts stand.
+std::string ComposeInfoFile(const SurveyState& state, const Clock& clock);
+
+}  // namespace veln

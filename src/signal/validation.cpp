@@ -1,0 +1,133 @@
+#include "signal/validation.h"
+
+#include <algorithm>
+
+#include "signal/edge_buffer.h"
+#include "signal/info_file.h"
+#include "signal/row_table.h"
+#include "signal/transition_analysis.h"
+#include "survey/statistics.h"
+#include "toolkit/file_store.h"
+#include "toolkit/number_text.h"
+#include "toolkit/refusal.h"
+
+namespace veln {
+
+namespace {
+
+/// Closes up a column over the sites that stay; columns that the survey does not have are empty.
+template <class Column>
+void Compact(Column& column, const std::vector<bool>& stays)
+{
+  if (column.empty()) {
+    return;
+  }
+  std::size_t kept = 0;
+  for (std::size_t i = 0; i < stays.size(); ++i) {
+    if (stays[i]) {
+      column[kept++] = column[i];
+    }
+  }
+  column.resize(kept);
+}
+
+void RunEdgeBuffering(SurveyState& state, bool rowbuf, Dialogs& dialogs, Acceptance& acceptance)
+{
+  const int masked = EdgeBuffer(state, InitRows(state.RowNumber), rowbuf);
+  acceptance.EdgeMasked = masked;
+  dialogs.Inform("Note:  " + NumberToString(masked) + " sites were masked by the edge buffering algorithm.");
+}
+
+void WriteTransitionFile(const SurveyState& state, Dialogs& dialogs, Acceptance& acceptance)
+{
+  if (!dialogs.Ask("Would you like an output file of the TA data values created and saved?")) {
+    return;
+  }
+  const auto path = OutputPath(state, "tstd.std");
+  try {
+    WriteFiles({{path, ComposeTransitionFile(state)}});
+    acceptance.Files.push_back(path);
+  } catch (const Refusal&) {
+    dialogs.Warn("Warning: could not create output TSD file...");
+  }
+}
+
+void RunTransitionAnalysis(SurveyState& state, Dialogs& dialogs, Acceptance& acceptance)
+{
+  state.TransitionScore = TrnsAlys(state, InitRows(state.RowNumber));
+  const int high = CountHighTVSites(state.TransitionScore);
+  acceptance.HighScores = high;
+  dialogs.Inform("Note:  " + NumberToString(high) + " sites exceed the global signal variability level.");
+  state.TransitionDone = true;
+  WriteTransitionFile(state, dialogs, acceptance);
+}
+
+void MakeInfoFile(const SurveyState& state, Dialogs& dialogs, const Clock& clock, Acceptance& acceptance)
+{
+  const auto path = OutputPath(state, "info.txt");
+  try {
+    WriteFiles({{path, ComposeInfoFile(state, clock)}});
+  } catch (const Refusal& refusal) {
+    dialogs.Warn("Warning: could not create survey information file...\n" + refusal.Message());
+    return;
+  }
+  acceptance.Files.push_back(path);
+  dialogs.Inform("Data file information & statistics saved to " + OutputName(state, "info.txt"));
+}
+
+}  // namespace
+
+int DeleteOutliers(SurveyState& state)
+{
+  state.Menu.Require(MenuEntry::mnuSigV, "Signal validation");
+  if (state.Decorrelation.Lblostdcnt == "0") {
+    throw Refusal("There are no outliers to delete.");
+  }
+  std::vector<bool> stays;
+  stays.reserve(state.SiteStatus.size());
+  for (const std::int16_t status : state.SiteStatus) {
+    stays.push_back(status != site_status::Outlier);
+  }
+  for (auto* column : {&state.CoordX, &state.CoordY, &state.Signal1, &state.Signal2, &state.Decorr1, &state.Decorr2}) {
+    Compact(*column, stays);
+  }
+  for (auto* column : {&state.SiteId, &state.RowNumber, &state.SiteStatus}) {
+    Compact(*column, stays);
+  }
+  const auto deleted = static_cast<int>(std::ranges::count(stays, false));
+  state.SurveySize -= deleted;
+  state.DeletedSiteCount += deleted;
+  ++state.ValidationCount;
+  state.Decorrelation.LblDcnt = GeneralForm(state.DeletedSiteCount);
+  state.Decorrelation.LblVcnt = GeneralForm(state.ValidationCount);
+  UpdateSignalStats(state);
+  return deleted;
+}
+
+Acceptance AcceptConfiguration(SurveyState& state, const AcceptanceOptions& options, Dialogs& dialogs,
+                               const Clock& clock)
+{
+  state.Menu.Require(MenuEntry::mnuSigV, "Signal validation");
+  if ((options.EdgeBuffering || options.TransitionAnalysis) && !IsTransect(state)) {
+    throw Refusal("Edge buffering and transition analysis need a transect survey.");
+  }
+  Acceptance acceptance;
+  const char* notRun = IsTransect(state) ? "none" : "n/a";
+  std::ranges::replace(state.SiteStatus, site_status::Outlier, site_status::Masked);
+  if (options.EdgeBuffering) {
+    RunEdgeBuffering(state, *options.EdgeBuffering, dialogs, acceptance);
+  } else {
+    state.Algorithms.LblEB = notRun;
+  }
+  if (options.TransitionAnalysis) {
+    RunTransitionAnalysis(state, dialogs, acceptance);
+  } else {
+    state.Algorithms.Label21 = notRun;
+  }
+  state.Algorithms.Visible = true;
+  MakeInfoFile(state, dialogs, clock, acceptance);
+  state.Menu.Apply(WorkflowEvent::ConfigurationAccepted);
+  return acceptance;
+}
+
+}  // namespace veln

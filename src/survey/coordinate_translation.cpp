@@ -1,0 +1,68 @@
+#include "survey/coordinate_translation.h"
+
+#include <cmath>
+#include <numbers>
+#include <utility>
+#include <vector>
+
+#include "survey/statistics.h"
+#include "toolkit/refusal.h"
+
+namespace veln {
+
+namespace {
+
+void Rotate(std::vector<double>& x, std::vector<double>& y, int degrees)
+{
+  constexpr double HalfTurn = 180;
+  const double theta = degrees / HalfTurn * std::numbers::pi;
+  const double cosine = std::cos(theta);
+  const double sine = std::sin(theta);
+  const double mx = MeanStd(x).Mean;
+  const double my = MeanStd(y).Mean;
+  for (std::size_t i = 0; i < x.size(); ++i) {
+    const double dx = x[i] - mx;
+    const double dy = y[i] - my;
+    x[i] = mx + dx * cosine - dy * sine;
+    y[i] = my + dx * sine + dy * cosine;
+  }
+}
+
+void Mirror(std::vector<double>& axis)
+{
+  const double mean = MeanStd(axis).Mean;
+  for (double& value : axis) {
+    value = mean - (value - mean);
+  }
+}
+
+}  // namespace
+
+void TranslateCoordinates(SurveyState& state, const CoordinateTranslation& translation)
+{
+  state.Menu.Require(MenuEntry::mnuSG, "Coordinate translation");
+  std::vector<double> x = state.CoordX;
+  std::vector<double> y = state.CoordY;
+  switch (translation.Kind) {
+    case TranslationKind::Swap:
+      std::swap(x, y);
+      break;
+    case TranslationKind::Rotate:
+      Rotate(x, y, translation.Degrees);
+      break;
+    case TranslationKind::ReverseX:
+      Mirror(x);
+      break;
+    case TranslationKind::ReverseY:
+      Mirror(y);
+      break;
+  }
+  if (!AllFinite(x) || !AllFinite(y)) {
+    throw Refusal("Error!  The coordinates are too large for this translation!\n"
+                  "The coordinates have been left as they were.");
+  }
+  state.CoordX = std::move(x);
+  state.CoordY = std::move(y);
+}
+
+}  // namespace veln

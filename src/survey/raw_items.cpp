@@ -1,0 +1,67 @@
+#include "survey/raw_items.h"
+
+#include <algorithm>
+
+namespace veln {
+
+namespace {
+
+constexpr std::string_view Blanks = " \t";
+constexpr std::string_view BlanksAndLineEnds = " \t\r\n";
+constexpr std::string_view ItemEnds = ", \t\r\n";
+
+void SkipAny(std::string_view& text, std::string_view characters)
+{
+  text.remove_prefix(std::min(text.find_first_not_of(characters), text.size()));
+}
+
+}  // namespace
+
+std::string_view SkipByteOrderMark(std::string_view content)
+{
+  constexpr std::string_view Mark = "\xEF\xBB\xBF";
+  return content.starts_with(Mark) ? content.substr(Mark.size()) : content;
+}
+
+std::size_t CountLines(std::string_view content)
+{
+  std::size_t lines = 0;
+  while (!content.empty()) {
+    const std::size_t length = content.find_first_of("\r\n");
+    if (length == std::string_view::npos) {
+      return lines + 1;
+    }
+    content.remove_prefix(length + (content.substr(length, 2) == "\r\n" ? 2 : 1));
+    ++lines;
+  }
+  return lines;
+}
+
+bool RawItems::AtEnd()
+{
+  SkipAny(rest_, BlanksAndLineEnds);
+  return rest_.empty();
+}
+
+std::optional<std::string_view> RawItems::Next()
+{
+  if (AtEnd()) {
+    return std::nullopt;
+  }
+  std::string_view item;
+  if (rest_.front() == '"') {
+    rest_.remove_prefix(1);
+    item = rest_.substr(0, rest_.find('"'));
+    rest_.remove_prefix(std::min(item.size() + 1, rest_.size()));
+  } else {
+    item = rest_.substr(0, rest_.find_first_of(ItemEnds));
+    rest_.remove_prefix(item.size());
+  }
+  SkipAny(rest_, Blanks);
+  if (!rest_.empty() && rest_.front() == ',') {
+    rest_.remove_prefix(1);
+  }
+  return item;
+}
+
+}  // namespace veln

@@ -1,0 +1,70 @@
+#include "survey/survey_import.h"
+
+#include <system_error>
+#include <utility>
+
+#include "survey/statistics.h"
+#include "toolkit/file_store.h"
+#include "toolkit/number_text.h"
+#include "toolkit/refusal.h"
+
+namespace veln {
+
+namespace {
+
+constexpr const char* Aborted = "\nData import process has been aborted!";
+
+/// The statistics panel of a survey must be complete: refuses signals for which it can't be.
+void TestSignals(const RawSurvey& survey, const ImportRequest& request)
+{
+  const bool two = request.Layout.SecondSignal;
+  const std::array<const std::vector<double>*, 2> columns = {&survey.Signal1, &survey.Signal2};
+  for (std::size_t i = 0; i < (two ? 2U : 1U); ++i) {
+    const std::string name = "Error!  The signal column \"" + request.Labels.at(i) + "\" ";
+    if (two && IsConstant(*columns.at(i))) {
+      throw Refusal(name + "is constant: all its values are equal,\nso that two signals can not be compared." + Aborted);
+    }
+    if (!IsFinite(DescribeSignal(*columns.at(i)))) {
+      throw Refusal(name + "holds values too large for its statistics." + Aborted);
+    }
+  }
+  if (two && !Correlation(survey.Signal1, survey.Signal2)) {
+    throw Refusal(std::string("Error!  The values of the two signal columns are too large or too small\n"
+                              "for their correlation to be computed.") +
+                  Aborted);
+  }
+}
+
+}  // namespace
+
+void ImportSurvey(SurveyState& state, const ImportRequest& request, const ImportProgress& progress)
+{
+  state.Menu.Require(MenuEntry::mnuImport, "Importing a survey");
+  std::error_code failure;
+  if (!std::filesystem::exists(request.FileName, failure)) {
+    throw Refusal("Error! File not found! Please re-enter filename information...");
+  }
+  RawSurvey survey = DataLoad(ReadFile(request.FileName), request.Layout, request.Log, progress);
+  TestSignals(survey, request);
+
+  state.SurveySize = static_cast<int>(survey.SiteId.size());
+  state.SignalCount = request.Layout.SecondSignal ? 2 : 1;
+  state.SignalLabel = request.Labels;
+  state.SignalUnits = request.Units;
+  state.LogTransform = request.Log;
+  state.SiteStatus.assign(survey.SiteId.size(), site_status::Free);
+  state.SiteId = std::move(survey.SiteId);
+  state.CoordX = std::move(survey.CoordX);
+  state.CoordY = std::move(survey.CoordY);
+  state.Signal1 = std::move(survey.Signal1);
+  state.Signal2 = std::move(survey.Signal2);
+  state.RowNumber = std::move(survey.RowNumber);
+  state.ImportFileName = request.FileName;
+  state.SurveyType = request.Layout.Transect ? "Transect" : "Grid";
+  state.LblSC = NumberToString(state.SignalCount);
+  state.SignalTransformText = request.Log ? "natural log" : "none";
+  UpdateSignalStats(state);
+  state.Menu.Apply(WorkflowEvent::SurveyImported);
+}
+
+}  // namespace veln

@@ -1,0 +1,25 @@
+#pragma once
+
+#include <array>
+#include <string>
+
+#include "survey/data_load.h"
+#include "workspace/survey_state.h"
+
+namespace veln {
+
+/// What the user tells of a raw survey file.
+struct ImportRequest {
+  std::string FileName;  ///< as typed or browsed
+  RecordLayout Layout;
+  std::array<std::string, 2> Labels;
+  std::string Units = "mS/m";  ///< "mS/m" or "dS/m"
+  bool Log = false;            ///< natural log transform
+};
+
+/// Reads a raw survey file into the record, shows its statistics and opens graphics, transformation and decorrelation.
+/// Throws Refusal, with the record as it was, when the import is closed, the file is missing or faulty, its numbers are
+/// too large for its statistics, or a column of a two-signal survey is constant.
+void ImportSurvey(SurveyState& state, const ImportRequest& request, const ImportProgress& progress = {});
+
+}  // namespace veln

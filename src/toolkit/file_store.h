@@ -1,0 +1,26 @@
+#pragma once
+
+#include <filesystem>
+#include <string>
+#include <vector>
+
+namespace veln {
+
+/// A file composed in memory, with the place where it belongs.
+struct ComposedFile {
+  std::filesystem::path Path;
+  std::string Content;
+};
+
+/// The whole content of a file, byte for byte. Throws Refusal with the file's name and the system's reason.
+std::string ReadFile(const std::filesystem::path& path);
+
+/// Puts files that belong together in place, all of them or none: each is written beside its target, flushed to
+/// disk and renamed over it. Older files of these names are replaced on success and stay whole on failure, and
+/// nothing else is left behind. Throws Refusal with the file's name and the system's reason.
+void WriteFiles(const std::vector<ComposedFile>& files);
+
+/// Makes one directory. Throws Refusal with the system's text if it can't, also if it exists already.
+void MakeDirectory(const std::filesystem::path& path);
+
+}  // namespace veln

@@ -1,0 +1,58 @@
+#include "toolkit/utf8.h"
+
+#include <cstdint>
+
+namespace veln {
+
+namespace {
+
+/// The length in bytes of the well-formed character at the start of `text`, 0 if there is none.
+std::size_t CharacterLength(std::string_view text)
+{
+  const auto first = static_cast<unsigned char>(text[0]);
+  if (first < 0x80) {
+    return 1;
+  }
+  const std::size_t length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
+  if (first < 0xC2 || first > 0xF4 || text.size() < length) {
+    return 0;
+  }
+  std::uint32_t code = first & (0x7FU >> length);
+  for (std::size_t i = 1; i < length; ++i) {
+    const auto next = static_cast<unsigned char>(text[i]);
+    if ((next & 0xC0U) != 0x80) {
+      return 0;
+    }
+    code = (code << 6U) | (next & 0x3FU);
+  }
+  const bool overlong = (length == 3 && code < 0x800) || (length == 4 && code < 0x10000);
+  const bool surrogate = code >= 0xD800 && code <= 0xDFFF;
+  return overlong || surrogate || code > 0x10FFFF ? 0 : length;
+}
+
+}  // namespace
+
+std::size_t CharacterCount(std::string_view text)
+{
+  std::size_t count = 0;
+  while (!text.empty()) {
+    const std::size_t length = CharacterLength(text);
+    text.remove_prefix(length == 0 ? 1 : length);
+    ++count;
+  }
+  return count;
+}
+
+bool IsUtf8(std::string_view text)
+{
+  while (!text.empty()) {
+    const std::size_t length = CharacterLength(text);
+    if (length == 0) {
+      return false;
+    }
+    text.remove_prefix(length);
+  }
+  return true;
+}
+
+}  // namespace veln

@@ -1,0 +1,14 @@
+#pragma once
+
+#include <cstddef>
+#include <string_view>
+
+namespace veln {
+
+/// The number of Unicode characters of a UTF-8 text; a byte that starts no valid character counts as one.
+std::size_t CharacterCount(std::string_view text);
+
+/// Whether the text is well-formed UTF-8 (no overlong forms, no surrogates, nothing above U+10FFFF).
+bool IsUtf8(std::string_view text);
+
+}  // namespace veln

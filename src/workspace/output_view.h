@@ -1,0 +1,62 @@
+#pragma once
+
+#include <array>
+#include <filesystem>
+#include <string>
+
+#include "toolkit/dialogs.h"
+#include "workspace/survey_state.h"
+
+namespace veln {
+
+/// A help document and the control that opens it.
+struct HelpTopic {
+  const char* Document;
+  const char* Window;
+  const char* Control;
+};
+
+/// All help documents; the numbers skip 08.
+inline constexpr std::array<HelpTopic, 19> HelpTopics = {{
+    {"hdoc01", "frmBasicStats", "CHelp"},
+    {"hdoc02", "frmParse", "Command3"},
+    {"hdoc03", "frmIGC", "CHelp"},
+    {"hdoc04", "frmProject", "CHelp"},
+    {"hdoc05", "frmStructure", "Chelp"},
+    {"hdoc06", "frmMask", "CHelp"},
+    {"hdoc07", "frmPCT", "CHelp"},
+    {"hdoc09", "frmSigDecorr", "CHelp"},
+    {"hdoc10", "frmSigVal", "CHelp"},
+    {"hdoc11", "frmSRS", "mnuSRSH1"},
+    {"hdoc11b", "frmSRS", "mnuSRSH2"},
+    {"hdoc11c", "frmSRS", "mnuSRSH3"},
+    {"hdoc12", "frmSvyGraph", "mnuGH1"},
+    {"hdoc13", "frmSvyGraph", "mnuGH2"},
+    {"hdoc14", "frmMain", "mnuMH1"},
+    {"hdoc15", "frmMain", "mnuMH2"},
+    {"hdoc16", "frmMain", "mnuMH3"},
+    {"hdoc17", "frmFileIO", "cmdHelp"},
+    {"hdoc18", "frmSiteMap", "mnusubSSMHelp"},
+}};
+
+/// Where a help document ("hdoc04") lies.
+std::filesystem::path HelpDocumentPath(const SurveyState& state, const std::string& document);
+
+/// What is told, after a beep, when a help document can't be loaded.
+std::string HelpMissingWarning(const std::filesystem::path& document);
+
+/// Reads a help document, as rich text. Throws Refusal with the warning above if it can't be read.
+std::string ReadHelpDocument(const SurveyState& state, const std::string& document);
+
+/// The file dialog of "View / Print Output Files": the five filters, in the project's directory.
+FileQuestion OutputFileQuestion(const SurveyState& state);
+
+/// "View / Print Output Files": lets the user choose an output file and starts the text editor on it. Cancelling ends
+/// it silently. Throws Refusal while no configuration is accepted, or with the system's text if the editor can't be started.
+void ViewOutputFiles(const SurveyState& state, Dialogs& dialogs);
+
+/// "Print this Help File": copies the document that is shown, byte for byte, to `helpdoc.rtf` and starts the text editor
+/// on it. Throws Refusal with the system's reason.
+void PrintHelpDocument(const SurveyState& state, const std::string& content, Dialogs& dialogs);
+
+}  // namespace veln

@@ -1,0 +1,92 @@
+#include "workspace/project.h"
+
+#include <algorithm>
+#include <system_error>
+
+#include "toolkit/refusal.h"
+
+namespace veln {
+
+namespace fs = std::filesystem;
+
+namespace {
+
+bool IsLetterOrDigit(char c)
+{
+  return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+}
+
+}  // namespace
+
+bool IsProjectName(std::string_view name)
+{
+  return !name.empty() && name != "." && name != ".." &&
+         std::ranges::all_of(name, [](char c) { return IsLetterOrDigit(c) || c == '_' || c == '.'; });
+}
+
+bool IsFieldId(std::string_view code)
+{
+  constexpr std::size_t Length = 4;
+  return code.size() == Length && std::ranges::all_of(code, IsLetterOrDigit);
+}
+
+std::vector<std::string> ListProjects(const fs::path& programDir)
+{
+  std::error_code failure;
+  std::vector<std::string> projects;
+  for (fs::directory_iterator entry(programDir / "data", failure), end; !failure && entry != end;
+       entry.increment(failure)) {
+    std::error_code unreadable;
+    if (entry->is_directory(unreadable)) {
+      projects.push_back(entry->path().filename().string());
+    }
+  }
+  if (failure) {
+    throw Refusal("Warning: The VELN-QTRD program can not locate the veln2\\data subdirectory!");
+  }
+  std::ranges::sort(projects);
+  return projects;
+}
+
+std::string FieldInUseQuestion()
+{
+  return "Warning!  The 4-character Field ID code you have specified is already in use\n"
+         "in the current data Project.  If you keep this code, you will automatically\n"
+         "overwrite one or more existing VELN-QTRD output data and/or text files.\n"
+         "\n"
+         "Are you sure that you want to still use this code and overwrite these files?";
+}
+
+bool IsFieldInUse(const fs::path& programDir, const std::string& project, const std::string& fieldId)
+{
+  std::error_code failure;
+  return fs::exists(programDir / "data" / project / (fieldId + "info.txt"), failure);
+}
+
+bool CheckAlphaCode(const fs::path& programDir, const std::string& project, const std::string& fieldId,
+                    Dialogs& dialogs)
+{
+  if (!IsFieldInUse(programDir, project, fieldId)) {
+    return true;
+  }
+  dialogs.Beep();
+  if (dialogs.Ask(FieldInUseQuestion())) {
+    return true;
+  }
+  dialogs.Beep();
+  dialogs.Inform("Please enter a new Field ID code now.");
+  return false;
+}
+
+void AcceptProject(SurveyState& state, const std::string& project, const std::string& fieldId,
+                   const std::string& description)
+{
+  state.Menu.Require(MenuEntry::mnuProject, "Setting a project");
+  state.FieldDescription = description;
+  state.ProjectName = project;
+  state.FieldId = fieldId;
+  state.ProjectShown = true;
+  state.Menu.Apply(WorkflowEvent::ProjectAccepted);
+}
+
+}  // namespace veln

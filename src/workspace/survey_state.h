@@ -1,0 +1,124 @@
+#pragma once
+
+#include <array>
+#include <cstdint>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include "workspace/workflow.h"
+
+namespace veln {
+
+/// The states of a site, as `SiteStatus` holds them; 1 to 5 are the numbers of saved designs.
+namespace site_status {
+inline constexpr std::int16_t Free = 0;       ///< available to the design search
+inline constexpr std::int16_t Selected = 6;   ///< picked by hand for the manual design
+inline constexpr std::int16_t Masked = 7;     ///< kept in the data, not selectable
+inline constexpr std::int16_t Outlier = 8;    ///< above the outlier level, or dropped by survey reduction
+inline constexpr std::int16_t Candidate = 9;  ///< target site of the design in work
+}  // namespace site_status
+
+inline constexpr int MaxDesigns = 5;
+
+/// One row of the statistics panel: label, count, mean, standard deviation, minimum and maximum as shown.
+struct SignalRow {
+  std::string LblNm, LblSz, LblMu, LblStd, LblMn, LblMx;
+  bool operator==(const SignalRow&) const = default;
+};
+
+/// "Signal Statistics": the texts of `BSSFrame`.
+struct SignalPanel {
+  bool Visible = false;
+  std::array<SignalRow, 2> Rows;
+  bool CorrVisible = false;  ///< the heading "Corr"
+  std::string LblCorr;
+  bool operator==(const SignalPanel&) const = default;
+};
+
+/// "Decorrelation Statistics": the texts of `DCFrame`.
+struct DecorrelationPanel {
+  bool Visible = false;
+  std::string Lblmstd, Lblmstdcnt, Lblostd, Lblostdcnt, LblDcnt, LblVcnt;
+  bool operator==(const DecorrelationPanel&) const = default;
+};
+
+/// "EB / TA  Algorithms": the texts of `TFrame`, which stand at "invoked" until told otherwise.
+struct AlgorithmPanel {
+  bool Visible = false;
+  std::string LblEB = "invoked";
+  std::string Label21 = "invoked";
+  bool operator==(const AlgorithmPanel&) const = default;
+};
+
+/// One row of the panel of designs: sample size and Opt-Criteria as shown, empty until the design is saved.
+struct DesignRow {
+  std::string Lblssn, Lblssoc;
+  bool operator==(const DesignRow&) const = default;
+};
+
+/// "Sample Site Designs": the texts of `SDFrame`. A row shows once it has a text.
+struct DesignPanel {
+  bool Visible = false;
+  std::array<DesignRow, MaxDesigns> Rows;
+  std::string Lblssmdn;
+  bool operator==(const DesignPanel&) const = default;
+};
+
+/// The one record that holds a survey for the length of a program run. The front end owns the only one and hands it to
+/// the procedures; what a panel shows is the text that files carry.
+struct SurveyState {
+  // The survey.
+  int SurveySize = 0;   ///< sites held; 50 to 30,000 after import, fewer after deletions
+  int SignalCount = 1;  ///< signal columns, 1 or 2
+  std::array<std::string, 2> SignalLabel;
+  std::string SignalUnits = "mS/m";  ///< "mS/m" or "dS/m"
+  bool LogTransform = false;         ///< the signals are natural logarithms
+
+  // One entry a site, in file order.
+  std::vector<std::int16_t> SiteId;
+  std::vector<std::int16_t> SiteStatus;
+  std::vector<double> CoordX, CoordY;    ///< in the file's units
+  std::vector<double> Signal1, Signal2;  ///< s1 and s2; s2 only with two signals
+  std::vector<double> Decorr1, Decorr2;  ///< z1 and z2 in standard deviations, once decorrelated
+  std::vector<double> TransitionScore;   ///< once transition analysis has run
+  std::vector<std::int16_t> RowNumber;   ///< transect row, 1 to 250; empty for a grid
+
+  // How far the run has come.
+  bool DecorrDone = false;
+  bool TransitionDone = false;
+  int DeletedSiteCount = 0;  ///< sites deleted by validation so far
+  int ValidationCount = 0;   ///< validation iterations so far
+  int DesignCount = 0;       ///< designs saved, 0 to 5
+  bool ManualDesignDone = false;
+  bool OverlayReady = false;
+  Workflow Menu;
+
+  // Status strings and panels of the main window.
+  bool ProjectShown = false;  ///< `PSFrame`
+  std::string FieldDescription, ProjectName, FieldId;
+  std::string ImportFileName, SurveyType, LblSS, LblSC, SignalTransformText;
+  SignalPanel Signals;
+  DecorrelationPanel Decorrelation;
+  AlgorithmPanel Algorithms;
+  DesignPanel Designs;
+
+  // Start-up settings.
+  std::filesystem::path ProgramDir;  ///< absolute; base of `data`, `helpdocs` and the settings file
+  std::string TextEditorPath;
+  std::string InputFilePath;
+  double PrinterDpiFactor = 2;  ///< 1 = 300 dpi, 2 = 600 dpi, 4 = 1200 dpi
+
+  bool operator==(const SurveyState&) const = default;
+};
+
+/// Whether the survey was walked along transect rows (and so has row numbers).
+bool IsTransect(const SurveyState& state);
+
+/// The path of an output file: `data`, project and field ID under the program directory, then `suffix` ("info.txt").
+std::filesystem::path OutputPath(const SurveyState& state, const std::string& suffix);
+
+/// The name of an output file: the field ID and `suffix`.
+std::string OutputName(const SurveyState& state, const std::string& suffix);
+
+}  // namespace veln
