@@ -1,28 +1,21 @@
 #include "signal/edge_buffer.h"
 
-#include <cmath>
+#include "survey/field_extent.h"
 
 namespace veln {
 
 namespace {
-
-double Distance(const SurveyState& state, std::size_t i, std::size_t j)
-{
-  const double dx = state.CoordX[i] - state.CoordX[j];
-  const double dy = state.CoordY[i] - state.CoordY[j];
-  return std::sqrt(dx * dx + dy * dy);
-}
 
 /// Whether a site lies in the first or last 4 percent of its row, measured in a straight line from the row's first site.
 bool IsAtRowEnd(const SurveyState& state, const SurveyRow& row, std::size_t i)
 {
   constexpr double FirstPart = 0.04;
   constexpr double LastPart = 0.96;
-  const double length = Distance(state, row.Start, row.End);
+  const double length = SiteDistance(state, row.Start, row.End);
   if (length == 0) {
     return true;
   }
-  const double t = Distance(state, i, row.Start) / length;
+  const double t = SiteDistance(state, i, row.Start) / length;
   return t < FirstPart || t > LastPart;
 }
 

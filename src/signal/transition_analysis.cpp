@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cmath>
 
+#include "survey/field_extent.h"
 #include "toolkit/number_text.h"
 #include "toolkit/text_report.h"
 
@@ -13,18 +14,11 @@ namespace {
 constexpr std::size_t Reach = 3;         // neighbours on either side
 constexpr std::size_t ShortestSpan = 10;  // last minus first index of a row that can be scored
 
-double Distance(const SurveyState& state, std::size_t i, std::size_t j)
-{
-  const double dx = state.CoordX[i] - state.CoordX[j];
-  const double dy = state.CoordY[i] - state.CoordY[j];
-  return std::sqrt(dx * dx + dy * dy);
-}
-
 /// The third neighbours lie at comparable distances: neither more than twice as far as the other.
 bool IsEvenlySpaced(const SurveyState& state, std::size_t i)
 {
-  const double d1 = Distance(state, i, i - Reach);
-  const double d2 = Distance(state, i, i + Reach);
+  const double d1 = SiteDistance(state, i, i - Reach);
+  const double d2 = SiteDistance(state, i, i + Reach);
   return 0.5 * d2 <= d1 && 2 * d2 >= d1;
 }
 

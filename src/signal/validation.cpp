@@ -6,6 +6,7 @@
 #include "signal/info_file.h"
 #include "signal/row_table.h"
 #include "signal/transition_analysis.h"
+#include "survey/field_extent.h"
 #include "survey/statistics.h"
 #include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
@@ -110,6 +111,9 @@ Acceptance AcceptConfiguration(SurveyState& state, const AcceptanceOptions& opti
   state.Menu.Require(MenuEntry::mnuSigV, "Signal validation");
   if ((options.EdgeBuffering || options.TransitionAnalysis) && !IsTransect(state)) {
     throw Refusal("Edge buffering and transition analysis need a transect survey.");
+  }
+  if (options.EdgeBuffering || options.TransitionAnalysis) {
+    RequireMeasurable(MeasureField(state));
   }
   Acceptance acceptance;
   const char* notRun = IsTransect(state) ? "none" : "n/a";

@@ -30,7 +30,8 @@ struct Acceptance {
 
 /// Accepts the configuration: outliers become masked, edge buffering and transition analysis run as asked, `info.txt` is
 /// written and the design menus open. Notes and questions go through `dialogs`. A file that can't be written is warned
-/// of and the acceptance goes on. Throws Refusal when validation is closed or an option does not fit a grid.
+/// of and the acceptance goes on. Throws Refusal, with nothing changed, when validation is closed, or
+/// when an option does not fit a grid or needs distances that can't be computed.
 Acceptance AcceptConfiguration(SurveyState& state, const AcceptanceOptions& options, Dialogs& dialogs,
                                const Clock& clock);
 

@@ -1,0 +1,48 @@
+#include "design/support_sites.h"
+
+#include <cmath>
+
+#include "design/design_optimisation.h"
+
+namespace veln {
+
+namespace {
+
+bool IsCentral(const SurveyState& state, std::size_t i, double limit)
+{
+  return state.SiteStatus[i] == site_status::Free && std::abs(state.Decorr1[i]) < limit &&
+         (state.SignalCount == 1 || std::abs(state.Decorr2[i]) < limit);
+}
+
+}  // namespace
+
+double CentralLimit(int surveySize)
+{
+  constexpr double Scale = 125;
+  constexpr double Lowest = 0.25;
+  constexpr double Highest = 1;
+  const double limit = Scale / surveySize;
+  return limit > Highest ? Highest : limit < Lowest ? Lowest : limit;
+}
+
+void FindSupportSite(const SurveyState& state, TargetSites& sites, std::size_t point, std::size_t n)
+{
+  const double limit = CentralLimit(state.SurveySize);
+  CandidateSite& place = sites.at(point)[0];
+  double best = 0;
+  for (std::size_t i = 0; i < state.SiteStatus.size(); ++i) {
+    if (!IsCentral(state, i, limit)) {
+      continue;
+    }
+    const CandidateSite saved = place;
+    place = {state.CoordX[i], state.CoordY[i], state.SiteId[i], i};
+    const double distance = FindDMinVal(sites, point, n);
+    if (distance > best) {
+      best = distance;
+    } else {
+      place = saved;
+    }
+  }
+}
+
+}  // namespace veln

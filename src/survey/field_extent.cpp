@@ -1,0 +1,28 @@
+#include "survey/field_extent.h"
+
+#include <cmath>
+
+#include "toolkit/refusal.h"
+
+namespace veln {
+
+FieldExtent MeasureField(const SurveyState& state)
+{
+  return {MinMax(state.CoordX), MinMax(state.CoordY)};
+}
+
+void RequireMeasurable(const FieldExtent& field)
+{
+  if (!std::isfinite(field.Width() * field.Width() + field.Height() * field.Height())) {
+    throw Refusal("Error!  The coordinates of the survey are too large for distances to be computed.");
+  }
+}
+
+double SiteDistance(const SurveyState& state, std::size_t i, std::size_t j)
+{
+  const double dx = state.CoordX[i] - state.CoordX[j];
+  const double dy = state.CoordY[i] - state.CoordY[j];
+  return std::sqrt(dx * dx + dy * dy);
+}
+
+}  // namespace veln
