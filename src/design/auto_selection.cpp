@@ -29,12 +29,6 @@ std::vector<Combination> Combinations(int strata, bool limited)
   return combinations;
 }
 
-std::optional<double>& ScoreOf(SelectionScores& scores, const Combination& combination)
-{
-  return scores.optval.at(static_cast<std::size_t>(combination.Stratum) - 1)
-      .at(static_cast<std::size_t>(combination.FactorIndex) - 1);
-}
-
 /// Makes the design of one combination for its score alone; none if the survey does not allow it.
 std::optional<double> ScoreCombination(SrsForm& form, SurveyState& state, Dialogs& dialogs, RunObserver& observer)
 {
@@ -67,6 +61,17 @@ void EndSelection(SrsForm& form, SurveyState& state, Dialogs& dialogs)
 
 }  // namespace
 
+std::vector<Combination> CombinationsOf(const SelectionScores& scores)
+{
+  return Combinations(scores.pnum, scores.LOA);
+}
+
+const std::optional<double>& ScoreOf(const SelectionScores& scores, const Combination& combination)
+{
+  return scores.optval.at(static_cast<std::size_t>(combination.Stratum) - 1)
+      .at(static_cast<std::size_t>(combination.FactorIndex) - 1);
+}
+
 int DFactorOf(int factorIndex)
 {
   constexpr int Step = 5;
@@ -93,12 +98,11 @@ SelectionSummary SummariseScores(const SelectionScores& scores)
   constexpr double Tolerance = 1.1;
   constexpr double AlwaysAcceptable = 1.3;
   constexpr double Hundredths = 100;
-  const std::vector<Combination> combinations = Combinations(scores.pnum, scores.LOA);
-  SelectionScores copy = scores;
+  const std::vector<Combination> combinations = CombinationsOf(scores);
   SelectionSummary summary;
   summary.BestScore = WorstScore;
   for (const Combination& combination : combinations) {
-    const auto& score = ScoreOf(copy, combination);
+    const auto& score = ScoreOf(scores, combination);
     if (score && *score < summary.BestScore) {
       summary.BestScore = *score;
       summary.Best = combination;
@@ -113,7 +117,7 @@ SelectionSummary SummariseScores(const SelectionScores& scores)
     summary.Limit = AlwaysAcceptable;
   }
   for (const Combination& combination : combinations) {
-    summary.Acceptable += IsAcceptable(summary, ScoreOf(copy, combination)) ? 1 : 0;
+    summary.Acceptable += IsAcceptable(summary, ScoreOf(scores, combination)) ? 1 : 0;
   }
   summary.lblBest = "The best design was generated using strata " + NumberToString(summary.Best->Stratum) +
                     " and a D_Factor of " + NumberToString(DFactorOf(summary.Best->FactorIndex) / Hundredths);
@@ -147,7 +151,8 @@ std::optional<SelectionScores> SelectDesigns(SrsForm& form, SurveyState& state, 
     }
     MoveDFactor(form, DFactorOf(combination.FactorIndex));
     SetParseValues(form, strata, combination.Stratum - 1);
-    ScoreOf(scores, combination) = ScoreCombination(form, state, dialogs, observer);
+    scores.optval.at(static_cast<std::size_t>(combination.Stratum) - 1)
+        .at(static_cast<std::size_t>(combination.FactorIndex) - 1) = ScoreCombination(form, state, dialogs, observer);
   }
   EndSelection(form, state, dialogs);
   return scores;

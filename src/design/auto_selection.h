@@ -3,6 +3,7 @@
 #include <array>
 #include <optional>
 #include <string>
+#include <vector>
 
 #include "design/srs_form.h"
 
@@ -24,6 +25,12 @@ struct Combination {
   int Stratum = 1;
   int FactorIndex = 1;
 };
+
+/// The combinations that were tried, in their order: by stratum, and within a stratum by D-factor.
+std::vector<Combination> CombinationsOf(const SelectionScores& scores);
+
+/// The score of a combination.
+const std::optional<double>& ScoreOf(const SelectionScores& scores, const Combination& combination);
 
 /// The D-factor of an index, in hundredths: 85 to 115 in steps of 5.
 int DFactorOf(int factorIndex);

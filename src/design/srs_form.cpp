@@ -251,7 +251,7 @@ void InitPossSP(SrsForm& form, SurveyState& state, int available, Dialogs& dialo
     DisableSize(form, DesignSize::Standard, DesignSize::Limited);
   }
   if (available < FewestSites) {
-    dialogs.Inform("There are not enough avaliable survey sites to generate any more Sampling Designs");
+    dialogs.Inform(TooFewSites);
     state.Menu.Apply(WorkflowEvent::DesignsExhausted);
     form.Closed = true;
   }

@@ -18,6 +18,10 @@ inline constexpr int HighestDFactor = 120;  ///< hundredths
 inline constexpr int PlainDFactor = 100;    ///< hundredths
 inline constexpr int FewestSitesForParsing = 400;
 
+/// What is told when fewer than 24 free sites are left, which closes the window and the design menu.
+inline constexpr const char* TooFewSites =
+    "There are not enough avaliable survey sites to generate any more Sampling Designs";
+
 /// The entries of the reduction menu of `frmSRS`; `Steps` are those for 50, 67, 75 and 80 percent.
 struct ReductionMenu {
   bool mnuSRSReduce = false;

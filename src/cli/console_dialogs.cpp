@@ -1,0 +1,39 @@
+#include "cli/console_dialogs.h"
+
+#include <ostream>
+
+#include "toolkit/refusal.h"
+
+namespace veln {
+
+void ConsoleDialogs::Inform(const std::string& text)
+{
+  notes_.push_back(text);
+  if (printed_ != nullptr) {
+    *printed_ << text << "\n";
+  }
+}
+
+void ConsoleDialogs::Warn(const std::string& text)
+{
+  warned_ = true;
+  errors_ << text << std::endl;
+}
+
+bool ConsoleDialogs::Ask(const std::string& text)
+{
+  const bool transitionFile = text.find("TA data values") != std::string::npos;
+  return transitionFile ? answers_.WriteTransitionFile : true;
+}
+
+std::optional<std::filesystem::path> ConsoleDialogs::ShowOpen(const FileQuestion& /*question*/)
+{
+  return std::nullopt;
+}
+
+void ConsoleDialogs::Shell(const std::vector<std::string>& /*command*/)
+{
+  throw Refusal("The command line starts no other program.");
+}
+
+}  // namespace veln

@@ -1,0 +1,52 @@
+#include <unistd.h>
+
+#include <exception>
+#include <iostream>
+#include <string>
+#include <vector>
+
+#include "cli/run_options.h"
+#include "cli/survey_run.h"
+#include "toolkit/refusal.h"
+
+namespace {
+
+int ExitStatus(veln::RefusalKind kind)
+{
+  switch (kind) {
+    case veln::RefusalKind::Usage:
+      return 2;
+    case veln::RefusalKind::FieldUse:
+      return 3;
+    case veln::RefusalKind::Survey:
+      break;
+  }
+  return 1;
+}
+
+int Run(const std::vector<std::string>& arguments)
+{
+  const veln::CommandLine command = veln::ReadCommandLine(arguments);
+  if (!command.Run) {
+    std::cout << command.Text;
+    return 0;
+  }
+  return veln::RunSurvey(*command.Run, {std::cout, std::cerr, isatty(STDOUT_FILENO) == 1});
+}
+
+}  // namespace
+
+int main(int argc, char** argv)
+{
+  try {
+    return Run({argv + 1, argv + argc});
+  } catch (const veln::Refusal& refusal) {
+    std::cout.flush();
+    std::cerr << refusal.Message() << "\n";
+    return ExitStatus(refusal.Kind());
+  } catch (const std::exception& failure) {
+    std::cout.flush();
+    std::cerr << "veln could not go on: " << failure.what() << "\n";
+    return 1;
+  }
+}

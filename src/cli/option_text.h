@@ -1,0 +1,53 @@
+#pragma once
+
+#include <optional>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "design/design_levels.h"
+#include "signal/decorrelation.h"
+#include "survey/coordinate_translation.h"
+
+namespace veln {
+
+/// One design asked for: `SIZE[,d=V][,stratum=K][,ignore-ta][,no-support]`.
+struct DesignOption {
+  DesignSize Size = DesignSize::Standard;
+  bool IncludeSupportSites = true;
+  int DFactor = 100;            ///< hundredths
+  std::optional<int> Stratum;   ///< from 1
+  bool IgnoreTA = false;
+};
+
+/// An automatic design selection asked for: `limited|full[,ignore-ta]`.
+struct SelectionOption {
+  bool Limited = false;
+  bool IgnoreTA = false;
+};
+
+// Each reader takes the value of the option named and throws Refusal (usage) if it is not one.
+
+/// A level or D-factor with at most two decimals, between `lowest` and `highest` hundredths. Gives hundredths.
+int ReadHundredths(const std::string& option, const std::string& text, int lowest, int highest);
+
+/// `swap`, `rotate=DEG` (whole degrees, -180 to 180), `reverse-x` or `reverse-y`.
+CoordinateTranslation ReadTranslation(const std::string& option, const std::string& text);
+
+/// A count or `all`, which is the largest count.
+int ReadRounds(const std::string& option, const std::string& text);
+
+DesignOption ReadDesign(const std::string& option, const std::string& text);
+
+SelectionOption ReadSelection(const std::string& option, const std::string& text);
+
+/// Site numbers joined by commas; one that stands twice counts once.
+std::vector<double> ReadSiteNumbers(const std::string& option, const std::string& text);
+
+/// Text that files carry: UTF-8 without a line break, of at most `mostCharacters`.
+void RequireText(const std::string& option, const std::string& text, std::size_t mostCharacters);
+
+/// A path: no line break.
+void RequirePath(const std::string& option, const std::string& text);
+
+}  // namespace veln

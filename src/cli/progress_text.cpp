@@ -1,0 +1,132 @@
+#include "cli/progress_text.h"
+
+#include <ostream>
+
+#include "toolkit/number_text.h"
+#include "toolkit/utf8.h"
+
+namespace veln {
+
+namespace {
+
+constexpr std::size_t NameWidth = 14;
+
+std::string PadRight(std::string_view text, std::size_t width)
+{
+  const std::size_t length = CharacterCount(text);
+  return std::string(text) + std::string(length < width ? width - length : 0, ' ');
+}
+
+std::string PadLeft(std::string_view text, std::size_t width)
+{
+  const std::size_t length = CharacterCount(text);
+  return std::string(length < width ? width - length : 0, ' ') + std::string(text);
+}
+
+std::string PointLine(const Design& design, int point)
+{
+  constexpr std::size_t CountWidth = 7;
+  constexpr std::size_t CoordinateWidth = 16;
+  constexpr const char* CoordinateFormat = "0.0#####";
+  const CandidateSite& site = design.Sites.at(static_cast<std::size_t>(point) - 1)[0];
+  if (!site.Exists()) {
+    return "";
+  }
+  const bool support = point > TargetPoints(design.Settings.Size);
+  return PadLeft(GeneralForm(point), CountWidth) + PadLeft(GeneralForm(site.SiteId), CountWidth + 2) +
+         PadLeft(FormatNumber(site.X, CoordinateFormat), CoordinateWidth) +
+         PadLeft(FormatNumber(site.Y, CoordinateFormat), CoordinateWidth) + (support ? "  support site" : "") + "\n";
+}
+
+std::string ScoreCell(const SelectionScores& scores, const SelectionSummary& summary, const Combination& combination)
+{
+  constexpr std::size_t CellWidth = 9;
+  const auto& score = ScoreOf(scores, combination);
+  if (!score) {
+    return std::string(CellWidth + 1, ' ');
+  }
+  const bool best = summary.Best && summary.Best->Stratum == combination.Stratum &&
+                    summary.Best->FactorIndex == combination.FactorIndex;
+  return PadLeft(FormatNumber(*score, "0.000"), CellWidth) + (best ? "*" : IsAcceptable(summary, score) ? "+" : " ");
+}
+
+/// Tables end their lines without trailing blanks.
+std::string TrimRight(std::string line)
+{
+  line.erase(line.find_last_not_of(' ') + 1);
+  return line + "\n";
+}
+
+}  // namespace
+
+void ProgressText::Step(std::string_view name, std::string_view text)
+{
+  if (out_ != nullptr) {
+    ClearCounter();
+    *out_ << PadRight(name, NameWidth) << text << "\n";
+  }
+}
+
+void ProgressText::Counter(const std::string& text)
+{
+  if (terminal_) {
+    *out_ << "\r" << PadRight(text, counterLength_) << std::flush;
+    counterLength_ = text.size();
+  }
+}
+
+void ProgressText::ClearCounter()
+{
+  if (counterLength_ > 0) {
+    *out_ << "\r" << std::string(counterLength_, ' ') << "\r" << std::flush;
+    counterLength_ = 0;
+  }
+}
+
+void ProgressText::DesignTable(const SavedDesign& design)
+{
+  if (out_ == nullptr) {
+    return;
+  }
+  *out_ << "  Point  Site ID               x               y\n";
+  for (int point = 1; point <= design.Made.PointCount(); ++point) {
+    *out_ << PointLine(design.Made, point);
+  }
+}
+
+void ProgressText::ScoreTable(const SelectionScores& scores)
+{
+  if (out_ == nullptr) {
+    return;
+  }
+  constexpr double Hundredths = 100;
+  const SelectionSummary summary = SummariseScores(scores);
+  std::string heading = "          ";
+  for (int f = 1; f <= DFactorCount; ++f) {
+    heading += "   F= " + FormatNumber(DFactorOf(f) / Hundredths, "0.00");
+  }
+  *out_ << heading << "\n";
+  for (int stratum = 1; stratum <= scores.pnum; ++stratum) {
+    std::string line = "  Strata" + NumberToString(stratum);
+    for (int f = 1; f <= DFactorCount; ++f) {
+      line += ScoreCell(scores, summary, {stratum, f});
+    }
+    *out_ << TrimRight(line);
+  }
+  *out_ << "  (* best, + acceptable)\n";
+}
+
+void ProgressText::FileList(const std::vector<std::filesystem::path>& files)
+{
+  if (out_ == nullptr) {
+    return;
+  }
+  ClearCounter();
+  bool first = true;
+  for (const auto& file : files) {
+    *out_ << PadRight(first ? "Files" : "", NameWidth) << file.string() << "\n";
+    first = false;
+  }
+}
+
+}  // namespace veln

@@ -1,0 +1,187 @@
+#include "cli/run_json.h"
+
+#include <array>
+#include <nlohmann/json.hpp>
+
+#include "survey/statistics.h"
+#include "toolkit/dialogs.h"
+#include "workspace/version.h"
+
+namespace veln {
+
+namespace {
+
+using Json = nlohmann::ordered_json;
+
+constexpr double Hundredths = 100;
+
+/// A number without the sign of a zero.
+Json Number(double value)
+{
+  return value == 0 ? 0.0 : value;
+}
+
+/// What a step that may not have run did, or null.
+template <class Value, class Compose>
+Json OrNull(const std::optional<Value>& value, Compose compose)
+{
+  return value ? Json(compose(*value)) : Json(nullptr);
+}
+
+Json SignalsOf(const SurveyState& state)
+{
+  Json list = Json::array();
+  for (int i = 0; i < state.SignalCount; ++i) {
+    const SignalStatistics statistics = DescribeSignal(i == 0 ? state.Signal1 : state.Signal2);
+    list.push_back({{"label", state.SignalLabel.at(static_cast<std::size_t>(i))},
+                    {"n", state.SurveySize},
+                    {"mean", Number(statistics.Mean.Mean)},
+                    {"std", Number(statistics.Mean.Std)},
+                    {"min", Number(statistics.Range.Minimum)},
+                    {"max", Number(statistics.Range.Maximum)}});
+  }
+  return list;
+}
+
+Json CorrelationOf(const SurveyState& state)
+{
+  if (state.SignalCount == 1) {
+    return nullptr;
+  }
+  return OrNull(Correlation(state.Signal1, state.Signal2), Number);
+}
+
+Json DecorrelationsOf(const RunOptions& options, const RunRecord& record)
+{
+  Json list = Json::array();
+  for (const DecorrelationRound& round : record.Decorrelations) {
+    list.push_back({{"sites", round.Sites},
+                    {"masking_level", options.Levels.Masking / Hundredths},
+                    {"outlier_level", options.Levels.Outlier / Hundredths},
+                    {"masked", round.Counts.MaskedCount},
+                    {"outliers", round.Counts.OutlierCount}});
+  }
+  return list;
+}
+
+Json ReductionOf(const RunOptions& options, const RunRecord& record)
+{
+  constexpr std::array<int, 4> Shares = {50, 67, 75, 80};
+  const int percent = Shares.at(static_cast<std::size_t>(options.Reduction.value_or(2) - 2));
+  return OrNull(record.ReducedTo, [percent](int available) {
+    return Json{{"percent", percent}, {"available", available}};
+  });
+}
+
+Json CombinationOf(int stratum, int factorIndex, const std::optional<double>& score)
+{
+  return {{"stratum", stratum},
+          {"d_factor", DFactorOf(factorIndex) / Hundredths},
+          {"opt_criteria", OrNull(score, Number)}};
+}
+
+Json SelectionOf(const SelectionScores& scores)
+{
+  Json list = Json::array();
+  for (const Combination& combination : CombinationsOf(scores)) {
+    list.push_back(CombinationOf(combination.Stratum, combination.FactorIndex, ScoreOf(scores, combination)));
+  }
+  const SelectionSummary summary = SummariseScores(scores);
+  Json best = nullptr;
+  Json limit = nullptr;
+  if (summary.Best) {
+    best = CombinationOf(summary.Best->Stratum, summary.Best->FactorIndex, summary.BestScore);
+    limit = summary.Limit;
+  }
+  return {{"strata", scores.pnum},
+          {"limited", scores.LOA},
+          {"scores", list},
+          {"best", best},
+          {"limit", limit},
+          {"acceptable", summary.Acceptable}};
+}
+
+Json PointsOf(const Design& design)
+{
+  Json points = Json::array();
+  const int targets = TargetPoints(design.Settings.Size);
+  for (int point = 1; point <= design.PointCount(); ++point) {
+    const PointCandidates& candidates = design.Sites.at(static_cast<std::size_t>(point) - 1);
+    const CandidateSite& site = candidates[0];
+    if (!site.Exists()) {
+      continue;
+    }
+    const bool support = point > targets;
+    Json entry = {{"point", point}, {"site_id", site.SiteId}, {"x", Number(site.X)}, {"y", Number(site.Y)},
+                  {"support_site", support}};
+    if (!support) {
+      entry["alternates"] = {candidates[1].SiteId, candidates[2].SiteId};
+    }
+    points.push_back(std::move(entry));
+  }
+  return points;
+}
+
+Json DesignsOf(const RunRecord& record)
+{
+  Json list = Json::array();
+  for (const SavedDesign& saved : record.Designs) {
+    const DesignSettings& settings = saved.Made.Settings;
+    list.push_back({{"number", saved.Number},
+                    {"size", saved.Made.PointCount()},
+                    {"d_factor", settings.DFactor},
+                    {"strata", settings.Parsing.ParseDenominator},
+                    {"stratum", settings.Parsing.ParseModulus + 1},
+                    {"ignore_ta", settings.IgnoreTA},
+                    {"support", settings.IncludeSupportSites},
+                    {"opt_criteria", Number(saved.Made.OptCriteria)},
+                    {"loop_count", saved.Made.LoopCount},
+                    {"points", PointsOf(saved.Made)}});
+  }
+  return list;
+}
+
+Json FilesOf(const RunRecord& record)
+{
+  Json list = Json::array();
+  for (const auto& file : record.Files) {
+    list.push_back(file.string());
+  }
+  return list;
+}
+
+}  // namespace
+
+std::string ComposeRunJson(const RunOptions& options, const RunRecord& record, const SurveyState& state)
+{
+  const ImportRequest& import = options.Import;
+  const auto counted = [](const char* name) { return [name](int count) { return Json{{name, count}}; }; };
+  const Json document = {
+      {"program", ProgramTitle},
+      {"version", ProgramVersion},
+      {"import",
+       {{"file", import.FileName},
+        {"type", state.SurveyType},
+        {"sites", record.ImportedSites},
+        {"signals", state.SignalCount},
+        {"log", import.Log},
+        {"units", import.Units}}},
+      {"signals", SignalsOf(state)},
+      {"corr", CorrelationOf(state)},
+      {"decorrelation", DecorrelationsOf(options, record)},
+      {"deleted", state.DeletedSiteCount},
+      {"validations", state.ValidationCount},
+      {"edge_buffer", OrNull(record.EdgeMasked, counted("masked"))},
+      {"transition", OrNull(record.HighScores, counted("high"))},
+      {"reduction", ReductionOf(options, record)},
+      {"ads", OrNull(record.Selection, SelectionOf)},
+      {"designs", DesignsOf(record)},
+      {"manual", OrNull(record.ManualSites, [](const auto& sites) { return Json{{"sites", sites}}; })},
+      {"files", FilesOf(record)},
+      {"notes", record.Notes}};
+  constexpr int Indent = 2;
+  // A path may hold bytes that are not UTF-8; the document shows them as U+FFFD.
+  return document.dump(Indent, ' ', false, Json::error_handler_t::replace) + "\n";
+}
+
+}  // namespace veln

@@ -1,0 +1,261 @@
+#include "cli/run_options.h"
+
+#include <CLI/CLI.hpp>
+#include <algorithm>
+#include <system_error>
+
+#include "toolkit/refusal.h"
+#include "workspace/project.h"
+#include "workspace/survey_state.h"
+#include "workspace/version.h"
+
+namespace veln {
+
+namespace {
+
+constexpr std::size_t LongestLabel = 10;
+constexpr std::size_t LongestDescription = 60;
+
+/// The options as they stand on the command line, before any rule.
+struct RawOptions {
+  std::string SurveyFile;
+  std::string Root = ".", Project = "demo", Field = "FLD1", Description;
+  bool Overwrite = false;
+  std::string Type = "grid";
+  bool SiteId = false, SecondSignal = false, Log = false;
+  std::optional<std::string> Label1, Label2;
+  std::string Units = "mS/m";
+  std::optional<std::string> ConvertUnits;
+  std::vector<std::string> Translations;
+  std::string MaskingLevel = "3.50", OutlierLevel = "4.50", Rounds = "0";
+  std::optional<std::string> EdgeBuffer, Reduction, Selection, Manual;
+  bool Transition = false, TransitionFile = false;
+  std::vector<std::string> Designs;
+  bool NoExport = false, Json = false, Quiet = false;
+};
+
+/// An option takes its value as it stands: brackets, commas and a leading minus sign have no meaning of their own.
+template <class Value>
+CLI::Option* AddValue(CLI::App& app, const char* name, Value& value, const char* valueName, const char* help)
+{
+  return app.add_option(name, value, help)->type_name(valueName)->allow_extra_args(false);
+}
+
+void AddRepeatable(CLI::App& app, const char* name, std::vector<std::string>& values, const char* valueName,
+                   const char* help)
+{
+  app.add_option(name, values, help)
+      ->type_name(valueName)
+      ->expected(1)
+      ->allow_extra_args(false)
+      ->multi_option_policy(CLI::MultiOptionPolicy::TakeAll);
+}
+
+void AddSurveyOptions(CLI::App& run, RawOptions& raw)
+{
+  AddValue(run, "survey_file", raw.SurveyFile, "SURVEY_FILE", "Raw survey file")->required();
+  AddValue(run, "--root", raw.Root, "DIR", "Program directory; DIR/data/PROJECT is made when missing (default: .)");
+  AddValue(run, "--project", raw.Project, "NAME", "Project (default: demo)");
+  AddValue(run, "--field", raw.Field, "ID", "4-character field ID (default: FLD1)");
+  AddValue(run, "--description", raw.Description, "TEXT", "Field description, up to 60 characters");
+  run.add_flag("--overwrite", raw.Overwrite, "Go on although the field ID is in use");
+  AddValue(run, "--type", raw.Type, "grid|transect", "Survey type (default: grid)");
+  run.add_flag("--site-id", raw.SiteId, "The file has a site ID column");
+  run.add_flag("--s2", raw.SecondSignal, "The file has a second signal column");
+  AddValue(run, "--label1", raw.Label1, "TEXT", "Label of s1, up to 10 characters (default: EMv)");
+  AddValue(run, "--label2", raw.Label2, "TEXT", "Label of s2, up to 10 characters (default: EMh)");
+  AddValue(run, "--units", raw.Units, "mS/m|dS/m", "Units of the file's signals (default: mS/m)");
+  run.add_flag("--log", raw.Log, "Natural log transform at import");
+  AddValue(run, "--convert-units", raw.ConvertUnits, "mS/m|dS/m", "Rescale the signals after import");
+  AddRepeatable(run, "--translate", raw.Translations, "swap|rotate=DEG|reverse-x|reverse-y",
+                "Coordinate translation after import; repeatable");
+}
+
+void AddAnalysisOptions(CLI::App& run, RawOptions& raw)
+{
+  AddValue(run, "--masking-level", raw.MaskingLevel, "V", "3.00 to 6.00 (default: 3.50)");
+  AddValue(run, "--outlier-level", raw.OutlierLevel, "V", "3.00 to 6.00 (default: 4.50)");
+  AddValue(run, "--delete-outliers", raw.Rounds, "N|all", "Delete-and-decorrelate rounds at most (default: 0)");
+  AddValue(run, "--edge-buffer", raw.EdgeBuffer, "ends|rows", "Mask row ends; rows: first and last row too");
+  run.add_flag("--transition", raw.Transition, "Transition analysis (transect only)");
+  run.add_flag("--transition-file", raw.TransitionFile, "Write the transition values as well");
+}
+
+void AddDesignOptions(CLI::App& run, RawOptions& raw)
+{
+  AddValue(run, "--manual", raw.Manual, "ID,ID,...", "Save a manual design of these sites");
+  AddValue(run, "--reduce", raw.Reduction, "50|67|75|80", "Survey reduction before the designs, in percent");
+  AddValue(run, "--ads", raw.Selection, "limited|full[,ignore-ta]", "Score all D-factors and strata");
+  AddRepeatable(run, "--design", raw.Designs, "SIZE[,d=V][,stratum=K][,ignore-ta][,no-support]",
+                "Make and save a design of 6, 12 or 20 sites (5, 10 or 18 without support sites); repeatable, at "
+                "most 5 (default: one of 12 when nothing else is asked for)");
+  run.add_flag("--no-export", raw.NoExport, "Leave data.svy unwritten");
+  run.add_flag("--json", raw.Json, "One JSON document on standard output");
+  run.add_flag("--quiet", raw.Quiet, "Nothing on standard output");
+}
+
+[[noreturn]] void RefuseUsage(const std::string& message)
+{
+  throw Refusal(message, RefusalKind::Usage);
+}
+
+void RequireOneOf(const std::string& option, const std::string& text, const std::vector<std::string>& choices)
+{
+  if (std::ranges::find(choices, text) != choices.end()) {
+    return;
+  }
+  std::string list;
+  for (const std::string& choice : choices) {
+    list += (list.empty() ? "" : ", ") + choice;
+  }
+  RefuseUsage(option + ": \"" + text + "\" is not one of " + list + ".");
+}
+
+std::filesystem::path AbsoluteRoot(const std::string& text)
+{
+  const std::filesystem::path root = std::filesystem::absolute(text.empty() ? "." : text);
+  const std::string normal = root.lexically_normal().string();
+  return normal.size() > 1 && normal.back() == '/' ? normal.substr(0, normal.size() - 1) : normal;
+}
+
+/// A project's name follows the rule for new names, or names a directory that stands under `data`.
+void RequireProject(const std::filesystem::path& root, const std::string& name)
+{
+  std::error_code failure;
+  const bool plain = !name.empty() && name != "." && name != ".." && name.find('/') == std::string::npos;
+  if (IsProjectName(name) || (plain && std::filesystem::is_directory(root / "data" / name, failure))) {
+    return;
+  }
+  RefuseUsage("--project: \"" + name +
+              "\" is not a project name.  It may hold digits, letters, \"_\" and \".\", or be that of a directory "
+              "under data.");
+}
+
+void ReadIdentity(const RawOptions& raw, RunOptions& options)
+{
+  RequirePath("--root", raw.Root);
+  options.Root = AbsoluteRoot(raw.Root);
+  RequirePath("--project", raw.Project);
+  RequireProject(options.Root, raw.Project);
+  if (!IsFieldId(raw.Field)) {
+    RefuseUsage("--field: \"" + raw.Field + "\" is not a field ID of exactly 4 digits or letters.");
+  }
+  RequireText("--description", raw.Description, LongestDescription);
+  options.Project = raw.Project;
+  options.Field = raw.Field;
+  options.Description = raw.Description;
+  options.Overwrite = raw.Overwrite;
+}
+
+void ReadImport(const RawOptions& raw, RunOptions& options)
+{
+  RequirePath("SURVEY_FILE", raw.SurveyFile);
+  RequireOneOf("--type", raw.Type, {"grid", "transect"});
+  RequireOneOf("--units", raw.Units, {"mS/m", "dS/m"});
+  const std::string label1 = raw.Label1.value_or(raw.Log ? "log(EMv)" : "EMv");
+  const std::string label2 = raw.Label2.value_or(raw.Log ? "log(EMh)" : "EMh");
+  RequireText("--label1", label1, LongestLabel);
+  RequireText("--label2", label2, LongestLabel);
+  options.Import = {
+      raw.SurveyFile, {raw.Type == "transect", raw.SiteId, raw.SecondSignal}, {label1, label2}, raw.Units, raw.Log};
+  if (raw.ConvertUnits) {
+    RequireOneOf("--convert-units", *raw.ConvertUnits, {"mS/m", "dS/m"});
+    if (*raw.ConvertUnits == raw.Units) {
+      RefuseUsage("--convert-units: the signals of the file are in " + raw.Units + " already.");
+    }
+    options.ConvertUnits = raw.ConvertUnits;
+  }
+  for (const std::string& text : raw.Translations) {
+    options.Translations.push_back(ReadTranslation("--translate", text));
+  }
+}
+
+void ReadAnalysis(const RawOptions& raw, RunOptions& options)
+{
+  options.Levels.Masking = ReadHundredths("--masking-level", raw.MaskingLevel, LowestLevel, HighestLevel);
+  options.Levels.Outlier = ReadHundredths("--outlier-level", raw.OutlierLevel, LowestLevel, HighestLevel);
+  if (options.Levels.Masking > options.Levels.Outlier) {
+    RefuseUsage("--masking-level: the masking level can not be higher than the outlier level.");
+  }
+  options.DeletionRounds = ReadRounds("--delete-outliers", raw.Rounds);
+  if (raw.EdgeBuffer) {
+    RequireOneOf("--edge-buffer", *raw.EdgeBuffer, {"ends", "rows"});
+    options.EdgeBuffering = *raw.EdgeBuffer == "rows";
+  }
+  options.TransitionAnalysis = raw.Transition;
+  options.TransitionFile = raw.TransitionFile;
+  if (!options.Import.Layout.Transect && (options.EdgeBuffering || options.TransitionAnalysis)) {
+    RefuseUsage("--edge-buffer and --transition need a transect survey (--type transect).");
+  }
+  if (options.TransitionFile && !options.TransitionAnalysis) {
+    RefuseUsage("--transition-file: there are no transition values without --transition.");
+  }
+}
+
+void ReadDesigns(const RawOptions& raw, RunOptions& options)
+{
+  for (const std::string& text : raw.Designs) {
+    options.Designs.push_back(ReadDesign("--design", text));
+  }
+  if (options.Designs.size() > MaxDesigns) {
+    RefuseUsage("--design: at most 5 designs can be made in a run.");
+  }
+  if (raw.Selection) {
+    options.Selection = ReadSelection("--ads", *raw.Selection);
+  }
+  const bool designIgnores =
+      std::ranges::any_of(options.Designs, [](const DesignOption& design) { return design.IgnoreTA; });
+  if (!options.TransitionAnalysis && (designIgnores || (options.Selection && options.Selection->IgnoreTA))) {
+    RefuseUsage("ignore-ta: there are no transition scores to ignore without --transition.");
+  }
+  if (raw.Manual) {
+    options.ManualSites = ReadSiteNumbers("--manual", *raw.Manual);
+  }
+  if (raw.Reduction) {
+    const std::vector<std::string> shares = {"50", "67", "75", "80"};
+    RequireOneOf("--reduce", *raw.Reduction, shares);
+    options.Reduction = 2 + static_cast<int>(std::ranges::find(shares, *raw.Reduction) - shares.begin());
+  }
+  if (options.Designs.empty() && !raw.Selection && !raw.Manual) {
+    options.Designs.emplace_back();
+  }
+}
+
+RunOptions ApplyRules(const RawOptions& raw)
+{
+  RunOptions options;
+  ReadIdentity(raw, options);
+  ReadImport(raw, options);
+  ReadAnalysis(raw, options);
+  ReadDesigns(raw, options);
+  options.Export = !raw.NoExport;
+  options.Json = raw.Json;
+  options.Quiet = raw.Quiet;
+  return options;
+}
+
+}  // namespace
+
+CommandLine ReadCommandLine(const std::vector<std::string>& arguments)
+{
+  RawOptions raw;
+  CLI::App app("Designs soil sampling plans from a ground-conductivity survey.", "veln");
+  app.set_version_flag("--version", std::string("veln ") + ProgramVersion);
+  app.require_subcommand(1);
+  CLI::App& run = *app.add_subcommand("run", "Takes a raw survey file to saved sample designs");
+  AddSurveyOptions(run, raw);
+  AddAnalysisOptions(run, raw);
+  AddDesignOptions(run, raw);
+  try {
+    app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+  } catch (const CLI::CallForHelp&) {
+    return {std::nullopt, run.parsed() ? run.help() : app.help()};
+  } catch (const CLI::CallForVersion& version) {
+    return {std::nullopt, std::string(version.what()) + "\n"};
+  } catch (const CLI::ParseError& error) {
+    throw Refusal(std::string(error.what()) + "\nSee veln run --help for the options.", RefusalKind::Usage);
+  }
+  return {ApplyRules(raw), ""};
+}
+
+}  // namespace veln

@@ -1,0 +1,47 @@
+#pragma once
+
+#include <array>
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "cli/option_text.h"
+#include "signal/decorrelation.h"
+#include "survey/survey_import.h"
+
+namespace veln {
+
+/// What `veln run` was asked to do.
+struct RunOptions {
+  std::filesystem::path Root;  ///< absolute
+  std::string Project, Field, Description;
+  bool Overwrite = false;
+  ImportRequest Import;
+  std::optional<std::string> ConvertUnits;
+  std::vector<CoordinateTranslation> Translations;
+  DecorrelationLevels Levels;
+  int DeletionRounds = 0;
+  std::optional<bool> EdgeBuffering;  ///< true: first and last row too
+  bool TransitionAnalysis = false;
+  bool TransitionFile = false;
+  std::optional<int> Reduction;  ///< keep one free site in so many
+  std::optional<SelectionOption> Selection;
+  std::vector<DesignOption> Designs;
+  std::vector<double> ManualSites;
+  bool Export = true;
+  bool Json = false;
+  bool Quiet = false;
+};
+
+/// A command line, read: a run, or a text to print (help, version).
+struct CommandLine {
+  std::optional<RunOptions> Run;
+  std::string Text;
+};
+
+/// Reads the arguments behind the program's name. Throws Refusal (usage) for what is wrong whatever the survey; nothing
+/// is written. The file system is asked only whether a project of an unusual name exists.
+CommandLine ReadCommandLine(const std::vector<std::string>& arguments);
+
+}  // namespace veln

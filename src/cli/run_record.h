@@ -1,0 +1,40 @@
+#pragma once
+
+#include <filesystem>
+#include <optional>
+#include <string>
+#include <vector>
+
+#include "design/auto_selection.h"
+#include "design/design_run.h"
+#include "signal/decorrelation.h"
+
+namespace veln {
+
+/// One round of decorrelation.
+struct DecorrelationRound {
+  int Sites = 0;
+  DecorrelationCounts Counts;
+};
+
+/// One design that was saved.
+struct SavedDesign {
+  int Number = 0;
+  Design Made;
+};
+
+/// What a run did, step by step; a step that did not run is empty.
+struct RunRecord {
+  int ImportedSites = 0;
+  std::vector<DecorrelationRound> Decorrelations;
+  std::optional<int> EdgeMasked;
+  std::optional<int> HighScores;
+  std::optional<int> ReducedTo;  ///< sites that a reduction left available
+  std::optional<SelectionScores> Selection;
+  std::vector<SavedDesign> Designs;
+  std::optional<std::vector<int>> ManualSites;  ///< site IDs in survey order
+  std::vector<std::filesystem::path> Files;     ///< in the order written
+  std::vector<std::string> Notes;
+};
+
+}  // namespace veln

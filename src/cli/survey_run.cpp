@@ -1,0 +1,338 @@
+#include "cli/survey_run.h"
+
+#include <ostream>
+#include <system_error>
+#include <utility>
+
+#include "cli/console_dialogs.h"
+#include "cli/progress_text.h"
+#include "cli/run_json.h"
+#include "cli/run_record.h"
+#include "design/auto_selection.h"
+#include "design/manual_design.h"
+#include "design/srs_form.h"
+#include "design/survey_reduction.h"
+#include "signal/row_table.h"
+#include "signal/validation.h"
+#include "survey/coordinate_translation.h"
+#include "survey/signal_transform.h"
+#include "survey/statistics.h"
+#include "survey/survey_export.h"
+#include "toolkit/clock.h"
+#include "toolkit/number_text.h"
+#include "toolkit/refusal.h"
+#include "workspace/project.h"
+
+namespace veln {
+
+namespace {
+
+std::string Count(std::size_t count, const std::string& thing)
+{
+  return GeneralForm(static_cast<double>(count)) + " " + thing + (count == 1 ? "" : "s");
+}
+
+std::string Count(int count, const std::string& thing)
+{
+  return Count(static_cast<std::size_t>(count), thing);
+}
+
+/// Shows the designs of an automatic selection as they are made.
+class SelectionProgress : public RunObserver {
+ public:
+  explicit SelectionProgress(ProgressText& progress) : progress_(progress) {}
+
+  bool NextDesign(int k, int n) override
+  {
+    progress_.Counter("Selection     design" + NumberToString(k) + " of" + NumberToString(n));
+    return true;
+  }
+
+ private:
+  ProgressText& progress_;
+};
+
+/// One run, step by step.
+class SurveyRun {
+ public:
+  SurveyRun(const RunOptions& options, const RunOutput& output)
+      : options_(options), output_(output), printed_(options.Json || options.Quiet ? nullptr : &output.Out),
+        progress_(printed_, output.Terminal),
+        dialogs_({options.TransitionFile}, printed_, output.Errors)
+  {
+    state_.ProgramDir = options.Root;
+  }
+
+  int Run()
+  {
+    SetProject();
+    Import();
+    Prepare();
+    Decorrelate();
+    DeleteOutlierRounds();
+    Accept();
+    SelectByHand();
+    ReduceSurvey();
+    SelectAutomatically();
+    for (const DesignOption& design : options_.Designs) {
+      MakeOneDesign(design);
+    }
+    Export();
+    progress_.FileList(record_.Files);
+    if (options_.Json) {
+      record_.Notes = dialogs_.Notes();
+      output_.Out << ComposeRunJson(options_, record_, state_);
+    }
+    return dialogs_.Warned() ? 1 : 0;
+  }
+
+ private:
+  void SetProject()
+  {
+    if (!options_.Overwrite && IsFieldInUse(options_.Root, options_.Project, options_.Field)) {
+      throw Refusal(FieldInUseQuestion(), RefusalKind::FieldUse);
+    }
+    const auto directory = options_.Root / "data" / options_.Project;
+    std::error_code failure;
+    std::filesystem::create_directories(directory, failure);
+    if (failure) {
+      throw Refusal(directory.string() + "\ncould not be made: " + failure.message());
+    }
+    AcceptProject(state_, options_.Project, options_.Field, options_.Description);
+    progress_.Step("Project", options_.Project + ", field " + options_.Field);
+  }
+
+  void Import()
+  {
+    ImportSurvey(state_, options_.Import, [this](ImportPass pass, int count) {
+      progress_.Counter((pass == ImportPass::Scanning ? "Scanning Line # " : "Importing Line #") +
+                        NumberToString(count));
+    });
+    record_.ImportedSites = state_.SurveySize;
+    std::string text = Count(state_.SurveySize, "site") + ", " + Count(state_.SignalCount, "signal") + " in " +
+                       state_.SignalUnits;
+    if (IsTransect(state_)) {
+      text += ", " + Count(InitRows(state_.RowNumber).size(), "row");
+    }
+    progress_.Step("Import", text);
+  }
+
+  void Prepare()
+  {
+    if (options_.ConvertUnits) {
+      BasicStatsForm form = LoadBasicStatsForm(state_);
+      form.Check3 = *options_.ConvertUnits == "mS/m";
+      form.Check4 = !form.Check3;
+      ComputeSignals(state_, form);
+      progress_.Step("Units", "signals rescaled to " + state_.SignalUnits);
+    }
+    for (const CoordinateTranslation& translation : options_.Translations) {
+      TranslateCoordinates(state_, translation);
+    }
+    if (!options_.Translations.empty()) {
+      progress_.Step("Coordinates", Count(options_.Translations.size(), "translation") + " applied");
+    }
+    for (int i = 0; i < state_.SignalCount; ++i) {
+      const SignalRow& row = state_.Signals.Rows.at(static_cast<std::size_t>(i));
+      progress_.Step(i == 0 ? "Signals" : "", row.LblNm + ": mean " + row.LblMu + ", std " + row.LblStd + ", " +
+                                                  row.LblMn + " to " + row.LblMx);
+    }
+    if (!state_.Signals.LblCorr.empty()) {
+      progress_.Step("", "correlation " + state_.Signals.LblCorr);
+    }
+  }
+
+  void Decorrelate()
+  {
+    const DecorrelationCounts counts = DecorrelateSignals(state_, options_.Levels);
+    record_.Decorrelations.push_back({state_.SurveySize, counts});
+    progress_.Step("Decorrelation", Count(state_.SurveySize, "site") + ": " + GeneralForm(counts.MaskedCount) +
+                                        " masked, " + Count(counts.OutlierCount, "outlier") + " (levels " +
+                                        state_.Decorrelation.Lblmstd + ", " + state_.Decorrelation.Lblostd + ")");
+  }
+
+  void DeleteOutlierRounds()
+  {
+    for (int round = 0; round < options_.DeletionRounds; ++round) {
+      if (record_.Decorrelations.back().Counts.OutlierCount == 0) {
+        return;
+      }
+      const int deleted = DeleteOutliers(state_);
+      progress_.Step("Validation", Count(deleted, "outlier") + " deleted");
+      Decorrelate();
+    }
+  }
+
+  void Accept()
+  {
+    const Acceptance acceptance = AcceptConfiguration(
+        state_, {options_.EdgeBuffering, options_.TransitionAnalysis}, dialogs_, SystemDateTime);
+    record_.EdgeMasked = acceptance.EdgeMasked;
+    record_.HighScores = acceptance.HighScores;
+    record_.Files = acceptance.Files;
+    progress_.Step("Acceptance", "edge buffering " + state_.Algorithms.LblEB + ", transition analysis " +
+                                     state_.Algorithms.Label21);
+  }
+
+  void SelectByHand()
+  {
+    if (options_.ManualSites.empty()) {
+      return;
+    }
+    RefuseUnknownSites();
+    MaskForm form = OpenMaskForm(state_);
+    for (const double number : options_.ManualSites) {
+      form.Text1 = GeneralForm(number);
+      SelectSite(form, state_);
+    }
+    form.Check1 = true;
+    std::vector<int> siteIds;
+    for (const std::size_t i : SelectedSites(state_)) {
+      siteIds.push_back(state_.SiteId[i]);
+    }
+    if (const auto file = FinishManualSelection(form, state_, dialogs_, SystemDateTime)) {
+      record_.Files.push_back(*file);
+    }
+    progress_.Step("Manual design", Count(siteIds.size(), "site"));
+    record_.ManualSites = std::move(siteIds);
+  }
+
+  /// Unknown numbers are refused before any site is selected, each with its warning.
+  void RefuseUnknownSites() const
+  {
+    std::string warnings;
+    for (const double number : options_.ManualSites) {
+      if (!FindSite(state_, number)) {
+        warnings += (warnings.empty() ? "" : "\n") + UnknownSiteWarning(number);
+      }
+    }
+    if (!warnings.empty()) {
+      throw Refusal(warnings);
+    }
+  }
+
+  /// Opens the design window's state once; refuses when the rules on available sites have closed it.
+  SrsForm& DesignWindow()
+  {
+    if (!srs_) {
+      SilentDialogs silent;
+      srs_ = OpenSrs(state_, silent);
+    }
+    if (srs_->Closed) {
+      throw Refusal(TooFewSites);
+    }
+    return *srs_;
+  }
+
+  void ReduceSurvey()
+  {
+    if (!options_.Reduction) {
+      return;
+    }
+    ReduceGridSize(DesignWindow(), state_, *options_.Reduction, dialogs_);
+    record_.ReducedTo = DetermineAvSites(state_);
+    progress_.Step("Reduction", Count(*record_.ReducedTo, "site") + " available");
+  }
+
+  void SelectAutomatically()
+  {
+    if (!options_.Selection) {
+      return;
+    }
+    SrsForm& form = DesignWindow();
+    ChooseSize(form, state_, options_.Designs.empty() ? DesignSize::Standard : options_.Designs.front().Size);
+    IgnoreScores(form, options_.Selection->IgnoreTA);
+    SelectionProgress observer(progress_);
+    record_.Selection = SelectDesigns(form, state_, options_.Selection->Limited, dialogs_, observer);
+    const SelectionSummary summary = SummariseScores(*record_.Selection);
+    progress_.Step("Selection", Count(CombinationsOf(*record_.Selection).size(), "design") + " scored by Opt-Criteria");
+    progress_.ScoreTable(*record_.Selection);
+    if (summary.Best) {
+      progress_.Step("", summary.lblBest);
+      progress_.Step("", summary.lblAccpt);
+    } else {
+      dialogs_.Inform("Note: " + summary.lblBest);
+    }
+  }
+
+  void IgnoreScores(SrsForm& form, bool ignore) const
+  {
+    if (state_.TransitionDone) {
+      IgnoreTransition(form, ignore);
+    }
+  }
+
+  void ChooseSettings(SrsForm& form, const DesignOption& option)
+  {
+    SilentDialogs silent;
+    IncludeSupport(form, option.IncludeSupportSites, silent);
+    ChooseSize(form, state_, option.Size);
+    AdjustDFactor(form, true);
+    MoveDFactor(form, option.DFactor);
+    IgnoreScores(form, option.IgnoreTA);
+    if (option.Stratum) {
+      SwitchParsing(form, true);
+      ParseForm parse = LoadParseForm(state_);
+      ChooseStratum(parse, *option.Stratum);
+      InvokeParsing(parse, form, silent);
+    }
+  }
+
+  void MakeOneDesign(const DesignOption& option)
+  {
+    SrsForm& form = DesignWindow();
+    ChooseSettings(form, option);
+    RunObserver unwatched;
+    RunDesign(form, state_, dialogs_, unwatched);
+    SavedDesign saved{state_.DesignCount + 1, *form.Finished};
+    const auto files = SaveDesign(form, state_, dialogs_, SystemDateTime);
+    record_.Files.insert(record_.Files.end(), files.begin(), files.end());
+    ShowDesign(saved);
+    record_.Designs.push_back(std::move(saved));
+  }
+
+  void ShowDesign(const SavedDesign& saved)
+  {
+    const DesignSettings& settings = saved.Made.Settings;
+    std::string text = Count(saved.Made.PointCount(), "site") + ", D-factor " + FormatNumber(settings.DFactor, "0.00");
+    if (settings.Parsing.ParseDenominator != 1) {
+      text += ", stratum" + NumberToString(settings.Parsing.ParseModulus + 1) + " of" +
+              NumberToString(settings.Parsing.ParseDenominator);
+    }
+    text += ": Opt-Criteria " + FormatNumber(saved.Made.OptCriteria, "0.000") + " after " +
+            Count(saved.Made.LoopCount, "loop");
+    progress_.Step("Design" + NumberToString(saved.Number), text);
+    progress_.DesignTable(saved);
+  }
+
+  void Export()
+  {
+    if (!options_.Export || (state_.DesignCount == 0 && !state_.ManualDesignDone)) {
+      return;
+    }
+    const ExportResult result = MakeOutF(state_);
+    if (!result.Written) {
+      throw Refusal(result.Reason);
+    }
+    record_.Files.push_back(result.Path);
+    progress_.Step("Export", GeneralForm(state_.SurveySize) + " lines in " + result.Path.filename().string());
+  }
+
+  const RunOptions& options_;
+  const RunOutput& output_;
+  std::ostream* printed_;
+  ProgressText progress_;
+  ConsoleDialogs dialogs_;
+  SurveyState state_;
+  std::optional<SrsForm> srs_;
+  RunRecord record_;
+};
+
+}  // namespace
+
+int RunSurvey(const RunOptions& options, const RunOutput& output)
+{
+  return SurveyRun(options, output).Run();
+}
+
+}  // namespace veln
