@@ -1,0 +1,101 @@
+#include "desktop/child_window.h"
+
+#include <QEvent>
+#include <QGuiApplication>
+#include <QPushButton>
+#include <QScreen>
+#include <QShortcut>
+
+#include "desktop/controls.h"
+#include "desktop/help_request.h"
+#include "desktop/text_roles.h"
+
+namespace veln {
+
+namespace {
+
+constexpr int TwipsPerPixel = 15;
+
+QString GeometryKey(const QWidget& window)
+{
+  return "windows/" + window.objectName();
+}
+
+}  // namespace
+
+ChildWindow::ChildWindow(Program& program, QWidget* parent, const Traits& traits)
+    : QDialog(parent), program_(program), offset_(traits.OffsetTwips / TwipsPerPixel), help_(traits.Help),
+      gate_(traits.Gate)
+{
+  setObjectName(traits.Name);
+  setWindowTitle(traits.Title);
+  setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
+                 Qt::WindowCloseButtonHint);
+  if (!help_.empty()) {
+    auto* shortcut = new QShortcut(QKeySequence(QKeySequence::HelpContents), this);
+    connect(shortcut, &QShortcut::activated, this, [this] { RequestHelp(program_, help_); });
+  }
+}
+
+void ChildWindow::BringUp()
+{
+  if (!isVisible()) {
+    Place();
+    show();
+  }
+  if (isMinimized()) {
+    showNormal();
+  }
+  raise();
+  activateWindow();
+}
+
+void ChildWindow::Unload()
+{
+  if (unloaded_) {
+    return;
+  }
+  unloaded_ = true;
+  if (isVisible()) {
+    program_.Settings().setValue(GeometryKey(*this), saveGeometry());
+  }
+  hide();
+  deleteLater();
+}
+
+void ChildWindow::reject()
+{
+  WayOut();
+}
+
+QPushButton* ChildWindow::HelpButton(const char* name)
+{
+  QPushButton* button = MakeButton(this, name, "&H", " OnLine Help... ");
+  button->setAccessibleName("H");
+  connect(button, &QPushButton::clicked, this, [this] { RequestHelp(program_, help_); });
+  return button;
+}
+
+void ChildWindow::changeEvent(QEvent* event)
+{
+  if (event->type() == QEvent::PaletteChange) {
+    RefreshRoles(*this);
+  }
+  QDialog::changeEvent(event);
+}
+
+void ChildWindow::Place()
+{
+  if (restoreGeometry(program_.Settings().value(GeometryKey(*this)).toByteArray())) {
+    return;  // kept on a screen by the toolkit
+  }
+  adjustSize();
+  if (const QWidget* main = program_.MainWindow()) {
+    const QRect screen = main->screen()->availableGeometry();
+    const QPoint corner = main->pos() + offset_;
+    const QPoint last = screen.bottomRight() - QPoint(frameGeometry().width(), frameGeometry().height());
+    move(qMax(screen.left(), qMin(corner.x(), last.x())), qMax(screen.top(), qMin(corner.y(), last.y())));
+  }
+}
+
+}  // namespace veln

@@ -1,0 +1,24 @@
+#include <QApplication>
+#include <QSettings>
+#include <filesystem>
+
+#include "desktop/program.h"
+#include "desktop/qt_dialogs.h"
+#include "desktop/workspace/frm_main.h"
+#include "toolkit/clock.h"
+#include "workspace/settings.h"
+
+int main(int argc, char** argv)
+{
+  QApplication application(argc, argv);
+  QApplication::setOrganizationName("Norvane Laboratory");
+  QApplication::setApplicationName("VELN-QTRD");
+  QSettings settings;
+  veln::QtDialogs dialogs;
+  veln::Program program(dialogs, veln::SystemDateTime, settings);
+  program.State.ProgramDir = std::filesystem::current_path();
+  veln::ReadTEandFIOinfo(program.State, dialogs);
+  veln::frmMain window(program);
+  window.show();
+  return QApplication::exec();
+}

@@ -1,0 +1,63 @@
+#include "desktop/program.h"
+
+#include <QPrintDialog>
+#include <QPrinter>
+#include <utility>
+
+#include "desktop/child_window.h"
+#include "toolkit/refusal.h"
+
+namespace veln {
+
+Program::Program(Dialogs& dialogs, Clock clock, QSettings& settings)
+    : ChoosePrinter([](QPrinter& printer, QWidget* parent) {
+        return QPrintDialog(&printer, parent).exec() == QDialog::Accepted;
+      }),
+      dialogs_(dialogs), clock_(std::move(clock)), settings_(settings)
+{
+}
+
+bool Program::Try(const std::function<void()>& action)
+{
+  try {
+    action();
+    return true;
+  } catch (const Refusal& refusal) {
+    dialogs_.Warn(refusal.Message());
+    return false;
+  }
+}
+
+void Program::Changed()
+{
+  for (const auto& [name, window] : std::map(windows_)) {
+    if (window && window->Gate() && !State.Menu.IsEnabled(*window->Gate())) {
+      window->Unload();
+    }
+  }
+  std::erase_if(listeners_, [](const Listener& listener) { return listener.Owner.isNull(); });
+  for (const Listener& listener : std::vector(listeners_)) {
+    if (listener.Owner) {
+      listener.Call();
+    }
+  }
+}
+
+void Program::OnChange(QObject* owner, std::function<void()> listener)
+{
+  listeners_.push_back({owner, std::move(listener)});
+}
+
+ChildWindow* Program::FindWindow(const char* name) const
+{
+  const auto found = windows_.find(name);
+  return found == windows_.end() || !found->second || found->second->Unloaded() ? nullptr : found->second.data();
+}
+
+void Program::Open(const char* name, ChildWindow* window)
+{
+  windows_[name] = window;
+  window->BringUp();
+}
+
+}  // namespace veln

@@ -1,0 +1,89 @@
+#pragma once
+
+#include <QPointer>
+#include <QSettings>
+#include <QString>
+#include <functional>
+#include <map>
+#include <vector>
+
+#include "toolkit/clock.h"
+#include "toolkit/dialogs.h"
+#include "workspace/survey_state.h"
+
+class QPrinter;
+class QWidget;
+
+namespace veln {
+
+class ChildWindow;
+
+/// What the windows share: the one survey record, the services that the engine asks for, and the windows that are open.
+/// Lives as long as the program.
+class Program {
+ public:
+  /// Lets the user choose a printer; false when the user cancels.
+  using PrinterChooser = std::function<bool(QPrinter& printer, QWidget* parent)>;
+
+  /// `settings` keeps the places and sizes of windows, and nothing else.
+  Program(Dialogs& dialogs, Clock clock, QSettings& settings);
+
+  SurveyState State;
+  PrinterChooser ChoosePrinter;  ///< the platform's print dialog, unless replaced
+
+  Dialogs& Ask() { return dialogs_; }
+  [[nodiscard]] const Clock& Now() const { return clock_; }
+  QSettings& Settings() { return settings_; }
+
+  /// The window that the others belong to.
+  void SetMainWindow(QWidget* window) { mainWindow_ = window; }
+  [[nodiscard]] QWidget* MainWindow() const { return mainWindow_; }
+
+  /// Runs an action of a window. A refusal is shown here, the one place where it is; false then.
+  bool Try(const std::function<void()>& action);
+
+  /// Tells all windows that the record has changed. Windows whose menu entry is closed by now are unloaded.
+  void Changed();
+  /// Has `listener` called at each change for as long as `owner` lives.
+  void OnChange(QObject* owner, std::function<void()> listener);
+
+  /// Brings a window up: the one that is open, or a new one, loaded afresh. Null if its loading was refused or if it did
+  /// not want to stay open.
+  template <class Window>
+  Window* Show();
+  /// The window of that class if it is open, or null.
+  template <class Window>
+  Window* Find() const
+  {
+    return dynamic_cast<Window*>(FindWindow(Window::Name));
+  }
+
+ private:
+  [[nodiscard]] ChildWindow* FindWindow(const char* name) const;
+  void Open(const char* name, ChildWindow* window);
+
+  struct Listener {
+    QPointer<QObject> Owner;
+    std::function<void()> Call;
+  };
+
+  Dialogs& dialogs_;
+  Clock clock_;
+  QSettings& settings_;
+  QPointer<QWidget> mainWindow_;
+  std::map<QString, QPointer<ChildWindow>> windows_;
+  std::vector<Listener> listeners_;
+};
+
+template <class Window>
+Window* Program::Show()
+{
+  if (FindWindow(Window::Name) == nullptr) {
+    Try([this] { Open(Window::Name, new Window(*this, mainWindow_)); });
+  } else {
+    Open(Window::Name, FindWindow(Window::Name));
+  }
+  return Find<Window>();
+}
+
+}  // namespace veln
