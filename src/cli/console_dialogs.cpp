@@ -1,8 +1,8 @@
 #include "cli/console_dialogs.h"
 
-#include <ostream>
-
 #include "toolkit/refusal.h"
+
+#include <ostream>
 
 namespace veln {
 

@@ -1,15 +1,15 @@
 #pragma once
 
+#include "toolkit/dialogs.h"
+
 #include <iosfwd>
 #include <string>
 #include <vector>
 
-#include "toolkit/dialogs.h"
-
 namespace veln {
 
-/// The command line's answer to what the engine asks of a person: notes are kept and printed, questions are answered from
-/// the options, failures after which the work goes on are told as errors.
+/// The command line's answer to what the engine asks of a person: notes are kept and printed, questions are
+/// answered from the options, failures after which the work goes on are told as errors.
 class ConsoleDialogs : public Dialogs {
  public:
   struct Answers {
@@ -24,8 +24,8 @@ class ConsoleDialogs : public Dialogs {
 
   void Inform(const std::string& text) override;
   void Warn(const std::string& text) override;
-  /// The two questions that a run can meet: the file of transition values, and the number of designs to analyse, which was
-  /// settled when the selection was asked for.
+  /// The two questions that a run can meet: the file of transition values, and the number of designs to
+  /// analyse, which was settled when the selection was asked for.
   bool Ask(const std::string& text) override;
   void Beep() override {}
   std::optional<std::filesystem::path> ShowOpen(const FileQuestion& question) override;
@@ -50,7 +50,10 @@ class SilentDialogs : public Dialogs {
   void Warn(const std::string& /*text*/) override {}
   bool Ask(const std::string& /*text*/) override { return true; }
   void Beep() override {}
-  std::optional<std::filesystem::path> ShowOpen(const FileQuestion& /*question*/) override { return std::nullopt; }
+  std::optional<std::filesystem::path> ShowOpen(const FileQuestion& /*question*/) override
+  {
+    return std::nullopt;
+  }
   void Shell(const std::vector<std::string>& /*command*/) override {}
 };
 

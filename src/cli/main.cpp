@@ -1,13 +1,12 @@
-#include <unistd.h>
+#include "cli/run_options.h"
+#include "cli/survey_run.h"
+#include "toolkit/refusal.h"
 
 #include <exception>
 #include <iostream>
 #include <string>
+#include <unistd.h>
 #include <vector>
-
-#include "cli/run_options.h"
-#include "cli/survey_run.h"
-#include "toolkit/refusal.h"
 
 namespace {
 

@@ -1,13 +1,13 @@
 #include "cli/option_text.h"
 
+#include "toolkit/number_text.h"
+#include "toolkit/refusal.h"
+#include "toolkit/utf8.h"
+
 #include <algorithm>
 #include <charconv>
 #include <cmath>
 #include <limits>
-
-#include "toolkit/number_text.h"
-#include "toolkit/refusal.h"
-#include "toolkit/utf8.h"
 
 namespace veln {
 
@@ -191,8 +191,8 @@ void RequireText(const std::string& option, const std::string& text, std::size_t
     throw Refusal(option + ": the text is not UTF-8.", RefusalKind::Usage);
   }
   if (CharacterCount(text) > mostCharacters) {
-    throw Refusal(option + ": \"" + text + "\" has more than" + NumberToString(static_cast<double>(mostCharacters)) +
-                      " characters.",
+    throw Refusal(option + ": \"" + text + "\" has more than" +
+                      NumberToString(static_cast<double>(mostCharacters)) + " characters.",
                   RefusalKind::Usage);
   }
 }

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "design/design_levels.h"
+#include "signal/decorrelation.h"
+#include "survey/coordinate_translation.h"
+
 #include <optional>
 #include <string>
 #include <string_view>
 #include <vector>
-
-#include "design/design_levels.h"
-#include "signal/decorrelation.h"
-#include "survey/coordinate_translation.h"
 
 namespace veln {
 
@@ -15,8 +15,8 @@ namespace veln {
 struct DesignOption {
   DesignSize Size = DesignSize::Standard;
   bool IncludeSupportSites = true;
-  int DFactor = 100;            ///< hundredths
-  std::optional<int> Stratum;   ///< from 1
+  int DFactor = 100;           ///< hundredths
+  std::optional<int> Stratum;  ///< from 1
   bool IgnoreTA = false;
 };
 
@@ -28,7 +28,8 @@ struct SelectionOption {
 
 // Each reader takes the value of the option named and throws Refusal (usage) if it is not one.
 
-/// A level or D-factor with at most two decimals, between `lowest` and `highest` hundredths. Gives hundredths.
+/// A level or D-factor with at most two decimals, between `lowest` and `highest` hundredths. Gives
+/// hundredths.
 int ReadHundredths(const std::string& option, const std::string& text, int lowest, int highest);
 
 /// `swap`, `rotate=DEG` (whole degrees, -180 to 180), `reverse-x` or `reverse-y`.

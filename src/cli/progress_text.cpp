@@ -1,9 +1,9 @@
 #include "cli/progress_text.h"
 
-#include <ostream>
-
 #include "toolkit/number_text.h"
 #include "toolkit/utf8.h"
+
+#include <ostream>
 
 namespace veln {
 
@@ -35,10 +35,12 @@ std::string PointLine(const Design& design, int point)
   const bool support = point > TargetPoints(design.Settings.Size);
   return PadLeft(GeneralForm(point), CountWidth) + PadLeft(GeneralForm(site.SiteId), CountWidth + 2) +
          PadLeft(FormatNumber(site.X, CoordinateFormat), CoordinateWidth) +
-         PadLeft(FormatNumber(site.Y, CoordinateFormat), CoordinateWidth) + (support ? "  support site" : "") + "\n";
+         PadLeft(FormatNumber(site.Y, CoordinateFormat), CoordinateWidth) +
+         (support ? "  support site" : "") + "\n";
 }
 
-std::string ScoreCell(const SelectionScores& scores, const SelectionSummary& summary, const Combination& combination)
+std::string ScoreCell(const SelectionScores& scores, const SelectionSummary& summary,
+                      const Combination& combination)
 {
   constexpr std::size_t CellWidth = 9;
   const auto& score = ScoreOf(scores, combination);
@@ -47,7 +49,9 @@ std::string ScoreCell(const SelectionScores& scores, const SelectionSummary& sum
   }
   const bool best = summary.Best && summary.Best->Stratum == combination.Stratum &&
                     summary.Best->FactorIndex == combination.FactorIndex;
-  return PadLeft(FormatNumber(*score, "0.000"), CellWidth) + (best ? "*" : IsAcceptable(summary, score) ? "+" : " ");
+  return PadLeft(FormatNumber(*score, "0.000"), CellWidth) + (best                           ? "*"
+                                                              : IsAcceptable(summary, score) ? "+"
+                                                                                             : " ");
 }
 
 /// Tables end their lines without trailing blanks.

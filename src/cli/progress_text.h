@@ -1,16 +1,16 @@
 #pragma once
 
+#include "cli/run_record.h"
+#include "workspace/survey_state.h"
+
 #include <iosfwd>
 #include <string>
 #include <string_view>
 
-#include "cli/run_record.h"
-#include "workspace/survey_state.h"
-
 namespace veln {
 
-/// The progress text of a run: one aligned line a step, tables for long lists. Counters that update in place show on a
-/// terminal alone; elsewhere the text has no control characters.
+/// The progress text of a run: one aligned line a step, tables for long lists. Counters that update in place
+/// show on a terminal alone; elsewhere the text has no control characters.
 class ProgressText {
  public:
   /// Prints nothing when `out` is null.

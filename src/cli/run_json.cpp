@@ -1,11 +1,12 @@
 #include "cli/run_json.h"
 
-#include <array>
-#include <nlohmann/json.hpp>
-
 #include "survey/statistics.h"
 #include "toolkit/dialogs.h"
 #include "workspace/version.h"
+
+#include <nlohmann/json.hpp>
+
+#include <array>
 
 namespace veln {
 
@@ -68,9 +69,8 @@ Json ReductionOf(const RunOptions& options, const RunRecord& record)
 {
   constexpr std::array<int, 4> Shares = {50, 67, 75, 80};
   const int percent = Shares.at(static_cast<std::size_t>(options.Reduction.value_or(2) - 2));
-  return OrNull(record.ReducedTo, [percent](int available) {
-    return Json{{"percent", percent}, {"available", available}};
-  });
+  return OrNull(record.ReducedTo,
+                [percent](int available) { return Json{{"percent", percent}, {"available", available}}; });
 }
 
 Json CombinationOf(int stratum, int factorIndex, const std::optional<double>& score)
@@ -93,12 +93,8 @@ Json SelectionOf(const SelectionScores& scores)
     best = CombinationOf(summary.Best->Stratum, summary.Best->FactorIndex, summary.BestScore);
     limit = summary.Limit;
   }
-  return {{"strata", scores.pnum},
-          {"limited", scores.LOA},
-          {"scores", list},
-          {"best", best},
-          {"limit", limit},
-          {"acceptable", summary.Acceptable}};
+  return {{"strata", scores.pnum}, {"limited", scores.LOA}, {"scores", list},
+          {"best", best},          {"limit", limit},        {"acceptable", summary.Acceptable}};
 }
 
 Json PointsOf(const Design& design)
@@ -112,7 +108,10 @@ Json PointsOf(const Design& design)
       continue;
     }
     const bool support = point > targets;
-    Json entry = {{"point", point}, {"site_id", site.SiteId}, {"x", Number(site.X)}, {"y", Number(site.Y)},
+    Json entry = {{"point", point},
+                  {"site_id", site.SiteId},
+                  {"x", Number(site.X)},
+                  {"y", Number(site.Y)},
                   {"support_site", support}};
     if (!support) {
       entry["alternates"] = {candidates[1].SiteId, candidates[2].SiteId};

@@ -1,13 +1,14 @@
 #include "cli/run_options.h"
 
-#include <CLI/CLI.hpp>
-#include <algorithm>
-#include <system_error>
-
 #include "toolkit/refusal.h"
 #include "workspace/project.h"
 #include "workspace/survey_state.h"
 #include "workspace/version.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <system_error>
 
 namespace veln {
 
@@ -34,7 +35,8 @@ struct RawOptions {
   bool NoExport = false, Json = false, Quiet = false;
 };
 
-/// An option takes its value as it stands: brackets, commas and a leading minus sign have no meaning of their own.
+/// An option takes its value as it stands: brackets, commas and a leading minus sign have no meaning of their
+/// own.
 template <class Value>
 CLI::Option* AddValue(CLI::App& app, const char* name, Value& value, const char* valueName, const char* help)
 {
@@ -54,7 +56,8 @@ void AddRepeatable(CLI::App& app, const char* name, std::vector<std::string>& va
 void AddSurveyOptions(CLI::App& run, RawOptions& raw)
 {
   AddValue(run, "survey_file", raw.SurveyFile, "SURVEY_FILE", "Raw survey file")->required();
-  AddValue(run, "--root", raw.Root, "DIR", "Program directory; DIR/data/PROJECT is made when missing (default: .)");
+  AddValue(run, "--root", raw.Root, "DIR",
+           "Program directory; DIR/data/PROJECT is made when missing (default: .)");
   AddValue(run, "--project", raw.Project, "NAME", "Project (default: demo)");
   AddValue(run, "--field", raw.Field, "ID", "4-character field ID (default: FLD1)");
   AddValue(run, "--description", raw.Description, "TEXT", "Field description, up to 60 characters");
@@ -75,7 +78,8 @@ void AddAnalysisOptions(CLI::App& run, RawOptions& raw)
 {
   AddValue(run, "--masking-level", raw.MaskingLevel, "V", "3.00 to 6.00 (default: 3.50)");
   AddValue(run, "--outlier-level", raw.OutlierLevel, "V", "3.00 to 6.00 (default: 4.50)");
-  AddValue(run, "--delete-outliers", raw.Rounds, "N|all", "Delete-and-decorrelate rounds at most (default: 0)");
+  AddValue(run, "--delete-outliers", raw.Rounds, "N|all",
+           "Delete-and-decorrelate rounds at most (default: 0)");
   AddValue(run, "--edge-buffer", raw.EdgeBuffer, "ends|rows", "Mask row ends; rows: first and last row too");
   run.add_flag("--transition", raw.Transition, "Transition analysis (transect only)");
   run.add_flag("--transition-file", raw.TransitionFile, "Write the transition values as well");
@@ -86,9 +90,10 @@ void AddDesignOptions(CLI::App& run, RawOptions& raw)
   AddValue(run, "--manual", raw.Manual, "ID,ID,...", "Save a manual design of these sites");
   AddValue(run, "--reduce", raw.Reduction, "50|67|75|80", "Survey reduction before the designs, in percent");
   AddValue(run, "--ads", raw.Selection, "limited|full[,ignore-ta]", "Score all D-factors and strata");
-  AddRepeatable(run, "--design", raw.Designs, "SIZE[,d=V][,stratum=K][,ignore-ta][,no-support]",
-                "Make and save a design of 6, 12 or 20 sites (5, 10 or 18 without support sites); repeatable, at "
-                "most 5 (default: one of 12 when nothing else is asked for)");
+  AddRepeatable(
+      run, "--design", raw.Designs, "SIZE[,d=V][,stratum=K][,ignore-ta][,no-support]",
+      "Make and save a design of 6, 12 or 20 sites (5, 10 or 18 without support sites); repeatable, at "
+      "most 5 (default: one of 12 when nothing else is asked for)");
   run.add_flag("--no-export", raw.NoExport, "Leave data.svy unwritten");
   run.add_flag("--json", raw.Json, "One JSON document on standard output");
   run.add_flag("--quiet", raw.Quiet, "Nothing on standard output");
@@ -126,9 +131,10 @@ void RequireProject(const std::filesystem::path& root, const std::string& name)
   if (IsProjectName(name) || (plain && std::filesystem::is_directory(root / "data" / name, failure))) {
     return;
   }
-  RefuseUsage("--project: \"" + name +
-              "\" is not a project name.  It may hold digits, letters, \"_\" and \".\", or be that of a directory "
-              "under data.");
+  RefuseUsage(
+      "--project: \"" + name +
+      "\" is not a project name.  It may hold digits, letters, \"_\" and \".\", or be that of a directory "
+      "under data.");
 }
 
 void ReadIdentity(const RawOptions& raw, RunOptions& options)
@@ -156,8 +162,11 @@ void ReadImport(const RawOptions& raw, RunOptions& options)
   const std::string label2 = raw.Label2.value_or(raw.Log ? "log(EMh)" : "EMh");
   RequireText("--label1", label1, LongestLabel);
   RequireText("--label2", label2, LongestLabel);
-  options.Import = {
-      raw.SurveyFile, {raw.Type == "transect", raw.SiteId, raw.SecondSignal}, {label1, label2}, raw.Units, raw.Log};
+  options.Import = {raw.SurveyFile,
+                    {raw.Type == "transect", raw.SiteId, raw.SecondSignal},
+                    {label1, label2},
+                    raw.Units,
+                    raw.Log};
   if (raw.ConvertUnits) {
     RequireOneOf("--convert-units", *raw.ConvertUnits, {"mS/m", "dS/m"});
     if (*raw.ConvertUnits == raw.Units) {

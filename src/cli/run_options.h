@@ -1,14 +1,14 @@
 #pragma once
 
+#include "cli/option_text.h"
+#include "signal/decorrelation.h"
+#include "survey/survey_import.h"
+
 #include <array>
 #include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "cli/option_text.h"
-#include "signal/decorrelation.h"
-#include "survey/survey_import.h"
 
 namespace veln {
 
@@ -40,8 +40,8 @@ struct CommandLine {
   std::string Text;
 };
 
-/// Reads the arguments behind the program's name. Throws Refusal (usage) for what is wrong whatever the survey; nothing
-/// is written. The file system is asked only whether a project of an unusual name exists.
+/// Reads the arguments behind the program's name. Throws Refusal (usage) for what is wrong whatever the
+/// survey; nothing is written. The file system is asked only whether a project of an unusual name exists.
 CommandLine ReadCommandLine(const std::vector<std::string>& arguments);
 
 }  // namespace veln

@@ -1,13 +1,13 @@
 #pragma once
 
+#include "design/auto_selection.h"
+#include "design/design_run.h"
+#include "signal/decorrelation.h"
+
 #include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "design/auto_selection.h"
-#include "design/design_run.h"
-#include "signal/decorrelation.h"
 
 namespace veln {
 

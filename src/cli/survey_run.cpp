@@ -1,9 +1,5 @@
 #include "cli/survey_run.h"
 
-#include <ostream>
-#include <system_error>
-#include <utility>
-
 #include "cli/console_dialogs.h"
 #include "cli/progress_text.h"
 #include "cli/run_json.h"
@@ -22,6 +18,10 @@
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
 #include "workspace/project.h"
+
+#include <ostream>
+#include <system_error>
+#include <utility>
 
 namespace veln {
 
@@ -56,7 +56,9 @@ class SelectionProgress : public RunObserver {
 class SurveyRun {
  public:
   SurveyRun(const RunOptions& options, const RunOutput& output)
-      : options_(options), output_(output), printed_(options.Json || options.Quiet ? nullptr : &output.Out),
+      : options_(options),
+        output_(output),
+        printed_(options.Json || options.Quiet ? nullptr : &output.Out),
         progress_(printed_, output.Terminal),
         dialogs_({options.TransitionFile}, printed_, output.Errors)
   {
@@ -109,8 +111,8 @@ class SurveyRun {
                         NumberToString(count));
     });
     record_.ImportedSites = state_.SurveySize;
-    std::string text = Count(state_.SurveySize, "site") + ", " + Count(state_.SignalCount, "signal") + " in " +
-                       state_.SignalUnits;
+    std::string text = Count(state_.SurveySize, "site") + ", " + Count(state_.SignalCount, "signal") +
+                       " in " + state_.SignalUnits;
     if (IsTransect(state_)) {
       text += ", " + Count(InitRows(state_.RowNumber).size(), "row");
     }
@@ -134,8 +136,8 @@ class SurveyRun {
     }
     for (int i = 0; i < state_.SignalCount; ++i) {
       const SignalRow& row = state_.Signals.Rows.at(static_cast<std::size_t>(i));
-      progress_.Step(i == 0 ? "Signals" : "", row.LblNm + ": mean " + row.LblMu + ", std " + row.LblStd + ", " +
-                                                  row.LblMn + " to " + row.LblMx);
+      progress_.Step(i == 0 ? "Signals" : "", row.LblNm + ": mean " + row.LblMu + ", std " + row.LblStd +
+                                                  ", " + row.LblMn + " to " + row.LblMx);
     }
     if (!state_.Signals.LblCorr.empty()) {
       progress_.Step("", "correlation " + state_.Signals.LblCorr);
@@ -146,9 +148,10 @@ class SurveyRun {
   {
     const DecorrelationCounts counts = DecorrelateSignals(state_, options_.Levels);
     record_.Decorrelations.push_back({state_.SurveySize, counts});
-    progress_.Step("Decorrelation", Count(state_.SurveySize, "site") + ": " + GeneralForm(counts.MaskedCount) +
-                                        " masked, " + Count(counts.OutlierCount, "outlier") + " (levels " +
-                                        state_.Decorrelation.Lblmstd + ", " + state_.Decorrelation.Lblostd + ")");
+    progress_.Step("Decorrelation",
+                   Count(state_.SurveySize, "site") + ": " + GeneralForm(counts.MaskedCount) + " masked, " +
+                       Count(counts.OutlierCount, "outlier") + " (levels " + state_.Decorrelation.Lblmstd +
+                       ", " + state_.Decorrelation.Lblostd + ")");
   }
 
   void DeleteOutlierRounds()
@@ -245,7 +248,8 @@ class SurveyRun {
     SelectionProgress observer(progress_);
     record_.Selection = SelectDesigns(form, state_, options_.Selection->Limited, dialogs_, observer);
     const SelectionSummary summary = SummariseScores(*record_.Selection);
-    progress_.Step("Selection", Count(CombinationsOf(*record_.Selection).size(), "design") + " scored by Opt-Criteria");
+    progress_.Step("Selection",
+                   Count(CombinationsOf(*record_.Selection).size(), "design") + " scored by Opt-Criteria");
     progress_.ScoreTable(*record_.Selection);
     if (summary.Best) {
       progress_.Step("", summary.lblBest);
@@ -294,7 +298,8 @@ class SurveyRun {
   void ShowDesign(const SavedDesign& saved)
   {
     const DesignSettings& settings = saved.Made.Settings;
-    std::string text = Count(saved.Made.PointCount(), "site") + ", D-factor " + FormatNumber(settings.DFactor, "0.00");
+    std::string text =
+        Count(saved.Made.PointCount(), "site") + ", D-factor " + FormatNumber(settings.DFactor, "0.00");
     if (settings.Parsing.ParseDenominator != 1) {
       text += ", stratum" + NumberToString(settings.Parsing.ParseModulus + 1) + " of" +
               NumberToString(settings.Parsing.ParseDenominator);

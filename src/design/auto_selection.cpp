@@ -1,11 +1,11 @@
 #include "design/auto_selection.h"
 
-#include <cstddef>
-#include <vector>
-
 #include "design/survey_reduction.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
+
+#include <cstddef>
+#include <vector>
 
 namespace veln {
 
@@ -30,7 +30,8 @@ std::vector<Combination> Combinations(int strata, bool limited)
 }
 
 /// Makes the design of one combination for its score alone; none if the survey does not allow it.
-std::optional<double> ScoreCombination(SrsForm& form, SurveyState& state, Dialogs& dialogs, RunObserver& observer)
+std::optional<double> ScoreCombination(SrsForm& form, SurveyState& state, Dialogs& dialogs,
+                                       RunObserver& observer)
 {
   constexpr int FewestSites = 24;
   ClearOldTS(state);
@@ -121,14 +122,14 @@ SelectionSummary SummariseScores(const SelectionScores& scores)
   }
   summary.lblBest = "The best design was generated using strata " + NumberToString(summary.Best->Stratum) +
                     " and a D_Factor of " + NumberToString(DFactorOf(summary.Best->FactorIndex) / Hundredths);
-  summary.lblAccpt = summary.Acceptable < 2
-                         ? "The best design appears to be the only acceptable design."
-                         : "There appear to be " + NumberToString(summary.Acceptable) + " acceptable designs.";
+  summary.lblAccpt = summary.Acceptable < 2 ? "The best design appears to be the only acceptable design."
+                                            : "There appear to be " + NumberToString(summary.Acceptable) +
+                                                  " acceptable designs.";
   return summary;
 }
 
-std::optional<SelectionScores> SelectDesigns(SrsForm& form, SurveyState& state, bool limited, Dialogs& dialogs,
-                                             RunObserver& observer)
+std::optional<SelectionScores> SelectDesigns(SrsForm& form, SurveyState& state, bool limited,
+                                             Dialogs& dialogs, RunObserver& observer)
 {
   RequireReady(form);
   const int strata = StrataToAnalyse(state.SurveySize);
@@ -152,7 +153,8 @@ std::optional<SelectionScores> SelectDesigns(SrsForm& form, SurveyState& state, 
     MoveDFactor(form, DFactorOf(combination.FactorIndex));
     SetParseValues(form, strata, combination.Stratum - 1);
     scores.optval.at(static_cast<std::size_t>(combination.Stratum) - 1)
-        .at(static_cast<std::size_t>(combination.FactorIndex) - 1) = ScoreCombination(form, state, dialogs, observer);
+        .at(static_cast<std::size_t>(combination.FactorIndex) - 1) =
+        ScoreCombination(form, state, dialogs, observer);
   }
   EndSelection(form, state, dialogs);
   return scores;

@@ -1,19 +1,19 @@
 #pragma once
 
+#include "design/srs_form.h"
+
 #include <array>
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "design/srs_form.h"
 
 namespace veln {
 
 inline constexpr int MostStrata = 9;
 inline constexpr int DFactorCount = 7;
 
-/// The scores of an automatic design selection (`optval`): Opt-Criteria to four decimals by stratum and D-factor index. A
-/// combination that was not tried or could not be made has none.
+/// The scores of an automatic design selection (`optval`): Opt-Criteria to four decimals by stratum and
+/// D-factor index. A combination that was not tried or could not be made has none.
 struct SelectionScores {
   int pnum = 1;      ///< strata analysed, 1 to 9
   bool LOA = false;  ///< the limited algorithm: only D-factors 0.90, 1.00 and 1.10
@@ -37,7 +37,8 @@ int DFactorOf(int factorIndex);
 
 /// What the results window tells of the scores.
 struct SelectionSummary {
-  std::optional<Combination> Best;  ///< lowest score; of equal ones the lowest stratum, then the lowest D-factor
+  std::optional<Combination>
+      Best;  ///< lowest score; of equal ones the lowest stratum, then the lowest D-factor
   double BestScore = 0;
   double Limit = 0;    ///< scores below it are acceptable: within 10 % of the best, or below 1.3
   int Acceptable = 0;  ///< how many are
@@ -53,14 +54,15 @@ int DesignsToAnalyse(int surveySize, bool limited);
 /// Whether a score is acceptable.
 bool IsAcceptable(const SelectionSummary& summary, const std::optional<double>& score);
 
-/// Finds the best and the acceptable combinations (`LoadGrid`, `IdentifyBestDsgns`). Without a score below 10000 there is
-/// no best one and the text says so.
+/// Finds the best and the acceptable combinations (`LoadGrid`, `IdentifyBestDsgns`). Without a score below
+/// 10000 there is no best one and the text says so.
 SelectionSummary SummariseScores(const SelectionScores& scores);
 
-/// `mnuSRSAutoFull` and `mnuSRSAutoLimited`: asks, then makes a design for every combination of stratum and D-factor at
-/// the size selected and saves none. Leaves D-factor 1.00 and no parsing. Empty if the user says No or the observer stops
-/// it between designs, and nothing has changed then. A combination that can't be made has no score; the others go on.
-std::optional<SelectionScores> SelectDesigns(SrsForm& form, SurveyState& state, bool limited, Dialogs& dialogs,
-                                             RunObserver& observer);
+/// `mnuSRSAutoFull` and `mnuSRSAutoLimited`: asks, then makes a design for every combination of stratum and
+/// D-factor at the size selected and saves none. Leaves D-factor 1.00 and no parsing. Empty if the user says
+/// No or the observer stops it between designs, and nothing has changed then. A combination that can't be
+/// made has no score; the others go on.
+std::optional<SelectionScores> SelectDesigns(SrsForm& form, SurveyState& state, bool limited,
+                                             Dialogs& dialogs, RunObserver& observer);
 
 }  // namespace veln

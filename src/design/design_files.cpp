@@ -1,12 +1,12 @@
 #include "design/design_files.h"
 
-#include <cstddef>
-#include <cstdint>
-#include <utility>
-
 #include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 #include "toolkit/text_report.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <utility>
 
 namespace veln {
 
@@ -100,7 +100,8 @@ void PutTargetTable(TextReport& report, DesignReport& design)
   }
 }
 
-/// The three lists of the chosen sites, in survey order: a part of the report, and the two files for the field.
+/// The three lists of the chosen sites, in survey order: a part of the report, and the two files for the
+/// field.
 struct SiteLists {
   TextReport& Report;
   TextReport Gps;
@@ -110,8 +111,8 @@ struct SiteLists {
 void PutListedSite(SiteLists& lists, const SurveyState& state, std::size_t i, int sample)
 {
   const bool rows = IsTransect(state);
-  const std::string position =
-      FormatNumber(state.CoordX[i], CoordinateFormat) + ", " + FormatNumber(state.CoordY[i], CoordinateFormat) + ", ";
+  const std::string position = FormatNumber(state.CoordX[i], CoordinateFormat) + ", " +
+                               FormatNumber(state.CoordY[i], CoordinateFormat) + ", ";
   const std::string siteId = FormatNumber(state.SiteId[i], "0");
   lists.Report.At(5).Number(sample).At(15).Number(state.SiteId[i]);
   if (rows) {
@@ -126,7 +127,8 @@ void PutSiteLists(SiteLists& lists, const DesignReport& design)
 {
   const SurveyState& state = design.State;
   lists.Report.BlankLines(2).Line("Ordered Listing of Sample Sites").BlankLines();
-  lists.Report.Line(IsTransect(state) ? "  Sample #    Site ID   Row #" : "  Sample #    Site ID").BlankLines();
+  lists.Report.Line(IsTransect(state) ? "  Sample #    Site ID   Row #" : "  Sample #    Site ID")
+      .BlankLines();
   int sample = 0;
   for (std::size_t i = 0; i < design.SiteStatus.size(); ++i) {
     if (design.SiteStatus[i] == design.Number) {
@@ -147,7 +149,8 @@ void UpdateSSDInfo(SurveyState& state, const DesignToSave& save)
 
 bool CheckProperP(int point, int sampleSize)
 {
-  return (sampleSize == 20 && point >= 19) || (sampleSize == 12 && point >= 11) || (sampleSize == 6 && point == 6);
+  return (sampleSize == 20 && point >= 19) || (sampleSize == 12 && point >= 11) ||
+         (sampleSize == 6 && point == 6);
 }
 
 std::vector<std::filesystem::path> SaveSamInfo(SurveyState& state, const DesignToSave& save, Dialogs& dialogs,
@@ -164,7 +167,8 @@ std::vector<std::filesystem::path> SaveSamInfo(SurveyState& state, const DesignT
   PutTargetTable(report, design);
   SiteLists lists{report, {}, {}};
   PutSiteLists(lists, design);
-  WriteFiles({{paths[0], report.Content()}, {paths[1], lists.Gps.Content()}, {paths[2], lists.Xrs.Content()}});
+  WriteFiles(
+      {{paths[0], report.Content()}, {paths[1], lists.Gps.Content()}, {paths[2], lists.Xrs.Content()}});
 
   state.DesignCount = design.Number;
   state.SiteStatus = std::move(design.SiteStatus);

@@ -1,13 +1,13 @@
 #pragma once
 
-#include <filesystem>
-#include <string>
-#include <vector>
-
 #include "design/design_run.h"
 #include "toolkit/clock.h"
 #include "toolkit/dialogs.h"
 #include "workspace/survey_state.h"
+
+#include <filesystem>
+#include <string>
+#include <vector>
 
 namespace veln {
 
@@ -21,9 +21,10 @@ struct DesignToSave {
 /// Whether a design point (from 1) is a support site of a design of this sample size.
 bool CheckProperP(int point, int sampleSize);
 
-/// Saves a design under the next design number: writes its report (`rsd`) and its two site lists (`gps`, `xrs`), marks
-/// the chosen sites, fills its row in the panel of designs and tells so. Returns the paths written. Throws Refusal, with
-/// the record and older files as they were, if the three files can't all be put in place.
+/// Saves a design under the next design number: writes its report (`rsd`) and its two site lists (`gps`,
+/// `xrs`), marks the chosen sites, fills its row in the panel of designs and tells so. Returns the paths
+/// written. Throws Refusal, with the record and older files as they were, if the three files can't all be put
+/// in place.
 std::vector<std::filesystem::path> SaveSamInfo(SurveyState& state, const DesignToSave& save, Dialogs& dialogs,
                                                const Clock& clock);
 

@@ -1,10 +1,10 @@
 #include "design/design_levels.h"
 
-#include <cstddef>
-#include <string_view>
-
 #include "toolkit/number_text.h"
 #include "toolkit/text_report.h"
+
+#include <cstddef>
+#include <string_view>
 
 namespace veln {
 

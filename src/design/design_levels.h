@@ -20,15 +20,15 @@ int SupportSites(DesignSize size);
 /// Sample size: the target points, and the support sites if they are included (6, 12, 20 or 5, 10, 18).
 int SampleSize(DesignSize size, bool includeSupportSites);
 
-/// The target levels of one design point, in standard deviations of the decorrelated signals: z1 of a one-signal survey,
-/// z1 and z2 of a two-signal survey.
+/// The target levels of one design point, in standard deviations of the decorrelated signals: z1 of a
+/// one-signal survey, z1 and z2 of a two-signal survey.
 using LevelRow = std::array<double, 3>;
 
 /// `DLevels`: the levels of points 1 to 18, at index 0 to 17.
 using DesignLevels = std::array<LevelRow, 18>;
 
-/// Builds the table of target levels, with every level multiplied by the D-factor. The limited size alone has a point at
-/// the centre of the pattern.
+/// Builds the table of target levels, with every level multiplied by the D-factor. The limited size alone has
+/// a point at the centre of the pattern.
 DesignLevels InitDLevels(DesignSize size, double dFactor);
 
 /// What the listing of the design levels reads of the design window.
@@ -38,9 +38,9 @@ struct LevelListing {
   std::string LblSS;        ///< sample size as shown
   std::string LblSC;        ///< number of signal columns as shown, with its leading blank
   int SignalCount = 1;
-  bool Parsing = false;              ///< "Invoke Parsing" is on
+  bool Parsing = false;  ///< "Invoke Parsing" is on
   bool IncludeSupportSites = true;
-  bool TransitionCounts = false;     ///< transition analysis was done and is not ignored
+  bool TransitionCounts = false;  ///< transition analysis was done and is not ignored
 };
 
 /// The lines of `frmDList`, for the levels in force.

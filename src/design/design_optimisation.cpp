@@ -1,11 +1,11 @@
 #include "design/design_optimisation.h"
 
-#include <cmath>
-#include <string>
-
 #include "survey/field_extent.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
+
+#include <cmath>
+#include <string>
 
 namespace veln {
 
@@ -84,20 +84,22 @@ double TargetSepDist(const SurveyState& state, int n)
   const double rx = field.Width();
   const double ry = field.Height();
   if (rx == 0 && ry == 0) {
-    throw Refusal("Error!  All sites of the survey lie on one point, so that no spacing is defined.\n"
-                  "A design can not be made.");
+    throw Refusal(
+        "Error!  All sites of the survey lie on one point, so that no spacing is defined.\n"
+        "A design can not be made.");
   }
   const double p = rx <= ry ? ry / (rx + ry) : rx / (rx + ry);
   return (rx + ry) * p / (std::exp(p * std::log(n)) - 0.5);
 }
 
-Optimisation ExchangeSites(TargetSites& sites, std::size_t n, double targetSeparation, std::string_view rounding,
-                           RunObserver& observer)
+Optimisation ExchangeSites(TargetSites& sites, std::size_t n, double targetSeparation,
+                           std::string_view rounding, RunObserver& observer)
 {
   double best = DesignOpt(sites, n);
   Optimisation result;
   result.OptCriteria = Criteria(targetSeparation, best, rounding);
-  observer.Status("Initializing Optimization Algorithm:  Opt-Criteria = " + NumberToString(result.OptCriteria));
+  observer.Status("Initializing Optimization Algorithm:  Opt-Criteria = " +
+                  NumberToString(result.OptCriteria));
   for (;;) {
     ++result.LoopCount;
     const Exchange exchange = BestExchange(sites, n, best);

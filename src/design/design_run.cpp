@@ -1,19 +1,20 @@
 #include "design/design_run.h"
 
-#include <cstddef>
-#include <span>
-#include <vector>
-
 #include "design/design_optimisation.h"
 #include "design/support_sites.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
 
+#include <cstddef>
+#include <span>
+#include <vector>
+
 namespace veln {
 
 namespace {
 
-/// The points in the order of their search: the outer ones have the first pick, those nearest the centre come last.
+/// The points in the order of their search: the outer ones have the first pick, those nearest the centre come
+/// last.
 std::vector<int> SearchOrder(DesignSize size)
 {
   switch (size) {
@@ -67,8 +68,8 @@ void MakePoints(SurveyState& state, Design& design, RunObserver& observer)
   design.LoopCount = optimum.LoopCount;
   PlaceSupportSite(state, design, n, observer);
   if (design.Settings.Size != DesignSize::Limited) {
-    observer.Status("Converged on Itrn # " + NumberToString(design.LoopCount) +
-                    ":  Opt-Criteria = " + NumberToString(design.OptCriteria) + "  Now searching for 2st SS...");
+    observer.Status("Converged on Itrn # " + NumberToString(design.LoopCount) + ":  Opt-Criteria = " +
+                    NumberToString(design.OptCriteria) + "  Now searching for 2st SS...");
     PlaceSupportSite(state, design, n + 1, observer);
   }
   observer.Status("Algorithm FINISHED:  Final Opt-Criteria = " + NumberToString(design.OptCriteria));

@@ -1,21 +1,21 @@
 #pragma once
 
-#include <string>
-
 #include "design/design_levels.h"
 #include "design/run_observer.h"
 #include "design/target_search.h"
 #include "design/target_sites.h"
 #include "workspace/survey_state.h"
 
+#include <string>
+
 namespace veln {
 
 /// What a design run takes from the user.
 struct DesignSettings {
   DesignSize Size = DesignSize::Standard;
-  double DFactor = 1;          ///< 0.80 to 1.20: stretches the pattern of targets
-  bool IgnoreTA = false;       ///< transition scores do not count
-  Stratum Parsing;             ///< the sites that the target search may use
+  double DFactor = 1;     ///< 0.80 to 1.20: stretches the pattern of targets
+  bool IgnoreTA = false;  ///< transition scores do not count
+  Stratum Parsing;        ///< the sites that the target search may use
   bool IncludeSupportSites = true;
   std::string Rounding = "0.000";  ///< decimals of Opt-Criteria
 };
@@ -36,9 +36,9 @@ struct Design {
 /// Whether transition scores enter the design search and its report.
 bool TransitionCounts(const SurveyState& state, bool ignoreTA);
 
-/// Makes one sample design from the survey as it stands; the same survey and settings always give the same design. All
-/// candidates are left marked (`ClearOldTS` frees them). Throws Refusal, with all candidates freed, if the sites have no
-/// extent or the stratum has too few free sites.
+/// Makes one sample design from the survey as it stands; the same survey and settings always give the same
+/// design. All candidates are left marked (`ClearOldTS` frees them). Throws Refusal, with all candidates
+/// freed, if the sites have no extent or the stratum has too few free sites.
 Design MakeDesign(SurveyState& state, const DesignSettings& settings, RunObserver& observer);
 
 }  // namespace veln

@@ -1,11 +1,11 @@
 #include "design/manual_design.h"
 
-#include <algorithm>
-
 #include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
 #include "toolkit/text_report.h"
+
+#include <algorithm>
 
 namespace veln {
 
@@ -26,10 +26,15 @@ void PutSite(TextReport& report, const SurveyState& state, std::size_t i)
   if (two) {
     report.At(40).Number(state.Decorr2[i], SignalFormat);
   }
-  report.At(50).Number(state.CoordX[i], CoordinateFormat).At(65).Number(state.CoordY[i], CoordinateFormat).EndLine();
+  report.At(50)
+      .Number(state.CoordX[i], CoordinateFormat)
+      .At(65)
+      .Number(state.CoordY[i], CoordinateFormat)
+      .EndLine();
 }
 
-std::string ComposeManualDesign(const SurveyState& state, const std::vector<std::size_t>& sites, const Clock& clock)
+std::string ComposeManualDesign(const SurveyState& state, const std::vector<std::size_t>& sites,
+                                const Clock& clock)
 {
   TextReport report;
   report.Line("Full Path:    " + OutputPath(state, Suffix).string())
@@ -53,7 +58,8 @@ std::string ComposeManualDesign(const SurveyState& state, const std::vector<std:
   return report.Content();
 }
 
-/// The frame of Select and Unselect: finds the site of the number in `Text1` and puts its answer in place of the list.
+/// The frame of Select and Unselect: finds the site of the number in `Text1` and puts its answer in place of
+/// the list.
 template <class Action>
 void ActOnSite(MaskForm& form, SurveyState& state, Action action)
 {
@@ -74,7 +80,8 @@ void ActOnSite(MaskForm& form, SurveyState& state, Action action)
 
 std::optional<std::size_t> FindSite(const SurveyState& state, double siteNumber)
 {
-  const auto found = std::ranges::find_if(state.SiteId, [siteNumber](std::int16_t id) { return id == siteNumber; });
+  const auto found =
+      std::ranges::find_if(state.SiteId, [siteNumber](std::int16_t id) { return id == siteNumber; });
   if (found == state.SiteId.end()) {
     return std::nullopt;
   }
@@ -164,8 +171,8 @@ void ListSelectedSites(MaskForm& form, const SurveyState& state)
   form.Text2Visible = true;
 }
 
-std::optional<std::filesystem::path> FinishManualSelection(MaskForm& form, SurveyState& state, Dialogs& dialogs,
-                                                           const Clock& clock)
+std::optional<std::filesystem::path> FinishManualSelection(MaskForm& form, SurveyState& state,
+                                                           Dialogs& dialogs, const Clock& clock)
 {
   std::optional<std::filesystem::path> written;
   if (form.Check1 && !SelectedSites(state).empty()) {

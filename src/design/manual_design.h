@@ -1,18 +1,19 @@
 #pragma once
 
+#include "toolkit/clock.h"
+#include "toolkit/dialogs.h"
+#include "workspace/survey_state.h"
+
 #include <cstdint>
 #include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
 
-#include "toolkit/clock.h"
-#include "toolkit/dialogs.h"
-#include "workspace/survey_state.h"
-
 namespace veln {
 
-/// The place of the first site with this code; empty if there is none. A number beyond 16 bits belongs to no site.
+/// The place of the first site with this code; empty if there is none. A number beyond 16 bits belongs to no
+/// site.
 std::optional<std::size_t> FindSite(const SurveyState& state, double siteNumber);
 
 /// What is told of a site number that no site has.
@@ -21,8 +22,9 @@ std::string UnknownSiteWarning(double siteNumber);
 /// The sites selected by hand, by their place in the survey.
 std::vector<std::size_t> SelectedSites(const SurveyState& state);
 
-/// `SaveUDSamInfo`: writes the manual design (`ugsd.txt`) of the sites selected, shows it in the panel of designs and tells
-/// so. Returns the path. Throws Refusal with the system's reason, and nothing has changed then.
+/// `SaveUDSamInfo`: writes the manual design (`ugsd.txt`) of the sites selected, shows it in the panel of
+/// designs and tells so. Returns the path. Throws Refusal with the system's reason, and nothing has changed
+/// then.
 std::filesystem::path SaveUDSamInfo(SurveyState& state, Dialogs& dialogs, const Clock& clock);
 
 /// What `frmMask` shows.
@@ -54,9 +56,9 @@ void UnselectSite(MaskForm& form, SurveyState& state);
 /// `Command4`: lists the selection.
 void ListSelectedSites(MaskForm& form, const SurveyState& state);
 
-/// `Command3` "Done": saves the selection if `Check1` is on and closes. Returns the path written, if one was. Throws what
-/// `SaveUDSamInfo` throws; the window stays open then.
-std::optional<std::filesystem::path> FinishManualSelection(MaskForm& form, SurveyState& state, Dialogs& dialogs,
-                                                           const Clock& clock);
+/// `Command3` "Done": saves the selection if `Check1` is on and closes. Returns the path written, if one was.
+/// Throws what `SaveUDSamInfo` throws; the window stays open then.
+std::optional<std::filesystem::path> FinishManualSelection(MaskForm& form, SurveyState& state,
+                                                           Dialogs& dialogs, const Clock& clock);
 
 }  // namespace veln

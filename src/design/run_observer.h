@@ -1,13 +1,14 @@
 #pragma once
 
+#include "design/target_sites.h"
+
 #include <span>
 #include <string>
 
-#include "design/target_sites.h"
-
 namespace veln {
 
-/// Watches a design run as it goes. Watching has no effect on the result; the calls come in the order of the run.
+/// Watches a design run as it goes. Watching has no effect on the result; the calls come in the order of the
+/// run.
 class RunObserver {
  public:
   RunObserver() = default;

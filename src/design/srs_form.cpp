@@ -1,12 +1,12 @@
 #include "design/srs_form.h"
 
-#include <algorithm>
-#include <cstddef>
-
 #include "design/design_files.h"
 #include "design/survey_reduction.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
+
+#include <algorithm>
+#include <cstddef>
 
 namespace veln {
 
@@ -103,9 +103,14 @@ DesignSettings SrsForm::Settings() const
 
 LevelListing SrsForm::Listing(const SurveyState& state) const
 {
-  return {Size,  Text1(), LblSS,
-          LblSC, state.SignalCount, Check3,
-          IncludeSupportSites, TransitionCounts(state, Check2)};
+  return {Size,
+          Text1(),
+          LblSS,
+          LblSC,
+          state.SignalCount,
+          Check3,
+          IncludeSupportSites,
+          TransitionCounts(state, Check2)};
 }
 
 SrsForm OpenSrs(SurveyState& state, Dialogs& dialogs)
@@ -127,7 +132,8 @@ void ChooseSize(SrsForm& form, const SurveyState& state, DesignSize size)
   RequireReady(form);
   if (!Enabled(form, size)) {
     throw Refusal("A design of this size needs" + NumberToString(SitesNeeded(size)) +
-                  " available survey sites, but there are only" + NumberToString(DetermineAvSites(state)) + ".");
+                  " available survey sites, but there are only" + NumberToString(DetermineAvSites(state)) +
+                  ".");
   }
   SelectSize(form, size);
 }
@@ -168,8 +174,8 @@ void SwitchParsing(SrsForm& form, bool on)
 void SetParseValues(SrsForm& form, int denominator, int modulus)
 {
   constexpr int MostStrata = 10;
-  const bool valid =
-      denominator >= 1 && denominator <= MostStrata && modulus >= 0 && modulus < MostStrata && denominator > modulus;
+  const bool valid = denominator >= 1 && denominator <= MostStrata && modulus >= 0 && modulus < MostStrata &&
+                     denominator > modulus;
   if (!valid) {
     throw Refusal("Error!  Invalid Parsing Values!");
   }
@@ -200,7 +206,8 @@ void RunDesign(SrsForm& form, SurveyState& state, Dialogs& dialogs, RunObserver&
   }
 }
 
-std::vector<std::filesystem::path> SaveDesign(SrsForm& form, SurveyState& state, Dialogs& dialogs, const Clock& clock)
+std::vector<std::filesystem::path> SaveDesign(SrsForm& form, SurveyState& state, Dialogs& dialogs,
+                                              const Clock& clock)
 {
   if (!form.Finished) {
     throw Refusal("There is no finished design to save.");

@@ -1,8 +1,8 @@
 #include "design/support_sites.h"
 
-#include <cmath>
-
 #include "design/design_optimisation.h"
+
+#include <cmath>
 
 namespace veln {
 

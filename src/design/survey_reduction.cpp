@@ -1,11 +1,11 @@
 #include "design/survey_reduction.h"
 
+#include "toolkit/number_text.h"
+#include "toolkit/refusal.h"
+
 #include <algorithm>
 #include <cmath>
 #include <cstddef>
-
-#include "toolkit/number_text.h"
-#include "toolkit/refusal.h"
 
 namespace veln {
 
@@ -20,7 +20,8 @@ struct ReductionStep {
   const char* Share;
 };
 
-constexpr std::array<ReductionStep, 4> Steps = {{{5000, "50%"}, {7500, "67%"}, {10000, "75%"}, {12500, "80%"}}};
+constexpr std::array<ReductionStep, 4> Steps = {
+    {{5000, "50%"}, {7500, "67%"}, {10000, "75%"}, {12500, "80%"}}};
 
 }  // namespace
 

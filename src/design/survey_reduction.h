@@ -1,21 +1,22 @@
 #pragma once
 
+#include "design/srs_form.h"
+
 #include <array>
 #include <string>
-
-#include "design/srs_form.h"
 
 namespace veln {
 
 /// Which reductions the size of a survey offers when the design window opens.
 ReductionMenu OfferedReductions(int surveySize);
 
-/// `ReduceGridSize`: keeps of the free sites those whose place in the survey (from 1) is a multiple of `rfactor` (2 to 5;
-/// others are held there) and sets the rest aside until they are recovered. Beeps and tells so. Throws Refusal if the
-/// menu does not offer the step.
+/// `ReduceGridSize`: keeps of the free sites those whose place in the survey (from 1) is a multiple of
+/// `rfactor` (2 to 5; others are held there) and sets the rest aside until they are recovered. Beeps and
+/// tells so. Throws Refusal if the menu does not offer the step.
 void ReduceGridSize(SrsForm& form, SurveyState& state, int rfactor, Dialogs& dialogs);
 
-/// `RecoverGridSites`: brings all sites back that reductions set aside. Throws Refusal if the menu does not offer it.
+/// `RecoverGridSites`: brings all sites back that reductions set aside. Throws Refusal if the menu does not
+/// offer it.
 void RecoverGridSites(SrsForm& form, SurveyState& state, Dialogs& dialogs);
 
 /// Strata that a survey of this size can be parsed into, 2 to 9: one more than its size over 400, rounded.

@@ -1,12 +1,12 @@
 #include "design/target_search.h"
 
+#include "toolkit/number_text.h"
+#include "toolkit/refusal.h"
+
 #include <algorithm>
 #include <cmath>
 #include <string>
 #include <utility>
-
-#include "toolkit/number_text.h"
-#include "toolkit/refusal.h"
 
 namespace veln {
 
@@ -80,8 +80,8 @@ PointCandidates LocateTargetSites(SurveyState& state, const SearchTarget& target
     candidate = {state.CoordX[pick.Index], state.CoordY[pick.Index], state.SiteId[pick.Index], pick.Index};
     distances += " " + NumberToString(RoundByFormat(pick.Distance, "0.000"));
   }
-  observer.Status(" Locating target sites for RSD level # " + NumberToString(target.Point) + "  Del Vec = " +
-                  distances.substr(1));
+  observer.Status(" Locating target sites for RSD level # " + NumberToString(target.Point) +
+                  "  Del Vec = " + distances.substr(1));
   observer.CandidatesFound(target.Point, candidates);
   return candidates;
 }

@@ -1,11 +1,11 @@
 #pragma once
 
+#include "design/design_levels.h"
+
 #include <array>
 #include <cstddef>
 #include <cstdint>
 #include <limits>
-
-#include "design/design_levels.h"
 
 namespace veln {
 
@@ -22,12 +22,12 @@ struct CandidateSite {
   bool operator==(const CandidateSite&) const = default;
 };
 
-/// The three candidates of a design point. The first stands in the design, the others are its alternates; a support site
-/// has no alternates.
+/// The three candidates of a design point. The first stands in the design, the others are its alternates; a
+/// support site has no alternates.
 using PointCandidates = std::array<CandidateSite, 3>;
 
-/// `TargetSites`: the candidates of design points 1 to 20, at index 0 to 19. Starts clear for each run, so that no old site
-/// can come back.
+/// `TargetSites`: the candidates of design points 1 to 20, at index 0 to 19. Starts clear for each run, so
+/// that no old site can come back.
 using TargetSites = std::array<PointCandidates, MostDesignPoints>;
 
 /// `SwapSites`: exchanges two ranks of one point (all 0-based).

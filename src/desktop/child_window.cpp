@@ -1,14 +1,14 @@
 #include "desktop/child_window.h"
 
+#include "desktop/controls.h"
+#include "desktop/help_request.h"
+#include "desktop/text_roles.h"
+
 #include <QEvent>
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QScreen>
 #include <QShortcut>
-
-#include "desktop/controls.h"
-#include "desktop/help_request.h"
-#include "desktop/text_roles.h"
 
 namespace veln {
 
@@ -24,7 +24,10 @@ QString GeometryKey(const QWidget& window)
 }  // namespace
 
 ChildWindow::ChildWindow(Program& program, QWidget* parent, const Traits& traits)
-    : QDialog(parent), program_(program), offset_(traits.OffsetTwips / TwipsPerPixel), help_(traits.Help),
+    : QDialog(parent),
+      program_(program),
+      offset_(traits.OffsetTwips / TwipsPerPixel),
+      help_(traits.Help),
       gate_(traits.Gate)
 {
   setObjectName(traits.Name);

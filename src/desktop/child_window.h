@@ -1,23 +1,24 @@
 #pragma once
 
-#include <QDialog>
-#include <optional>
-#include <string>
-
 #include "desktop/program.h"
 #include "workspace/workflow.h"
+
+#include <QDialog>
+
+#include <optional>
+#include <string>
 
 class QPushButton;
 
 namespace veln {
 
-/// A window beside the main one: single instance, modeless, loaded afresh at each opening. Keeps its place and size from
-/// one opening to the next. Closing it by its own control or by Esc takes its way out.
+/// A window beside the main one: single instance, modeless, loaded afresh at each opening. Keeps its place
+/// and size from one opening to the next. Closing it by its own control or by Esc takes its way out.
 class ChildWindow : public QDialog {
  public:
   /// What makes one window differ from another.
   struct Traits {
-    const char* Name;   ///< "frmProject"
+    const char* Name;  ///< "frmProject"
     QString Title;
     QPoint OffsetTwips = {1000, 750};  ///< from the main window's corner, at the first opening; 15 to a pixel
     std::string Help;                  ///< the document that F1 opens; none if empty

@@ -2,6 +2,7 @@
 
 #include <QLabel>
 #include <QString>
+
 #include <string>
 
 class QLineEdit;
@@ -10,8 +11,8 @@ class QWidget;
 
 namespace veln {
 
-inline constexpr int SmallGap = 8;    ///< px between related controls
-inline constexpr int LargeGap = 16;   ///< px between groups
+inline constexpr int SmallGap = 8;   ///< px between related controls
+inline constexpr int LargeGap = 16;  ///< px between groups
 inline constexpr int WindowMargin = 12;
 
 /// Text of the engine, which is UTF-8, for a window.
@@ -29,7 +30,8 @@ QPushButton* MakeButton(QWidget* parent, const char* name, const QString& captio
 /// A label that stands before a field: takes the field's key and gives it its accessible name.
 QLabel* MakeFieldLabel(QWidget* parent, const char* name, const QString& caption, QWidget* field);
 
-/// A label that shows a value, as plain text. Its accessible name is `caption` and the value, kept by `ShowValue`.
+/// A label that shows a value, as plain text. Its accessible name is `caption` and the value, kept by
+/// `ShowValue`.
 QLabel* MakeValueLabel(QWidget* parent, const char* name, const QString& caption);
 void ShowValue(QLabel& label, const QString& value);
 

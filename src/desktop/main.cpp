@@ -1,12 +1,13 @@
-#include <QApplication>
-#include <QSettings>
-#include <filesystem>
-
 #include "desktop/program.h"
 #include "desktop/qt_dialogs.h"
 #include "desktop/workspace/frm_main.h"
 #include "toolkit/clock.h"
 #include "workspace/settings.h"
+
+#include <QApplication>
+#include <QSettings>
+
+#include <filesystem>
 
 int main(int argc, char** argv)
 {

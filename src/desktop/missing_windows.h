@@ -1,13 +1,13 @@
 #pragma once
 
-#include <array>
-
 #include "workspace/workflow.h"
+
+#include <array>
 
 namespace veln {
 
 /// Entries of the main menu whose windows are not there yet; they stay disabled whatever the workflow says.
-inline constexpr std::array<MenuEntry, 4> EntriesOfMissingWindows = {MenuEntry::mnuSG, MenuEntry::mnuSRS,
-                                                                      MenuEntry::mnuMask, MenuEntry::mnuSHowMap};
+inline constexpr std::array<MenuEntry, 4> EntriesOfMissingWindows = {
+    MenuEntry::mnuSG, MenuEntry::mnuSRS, MenuEntry::mnuMask, MenuEntry::mnuSHowMap};
 
 }  // namespace veln

@@ -1,11 +1,12 @@
 #include "desktop/program.h"
 
-#include <QPrintDialog>
-#include <QPrinter>
-#include <utility>
-
 #include "desktop/child_window.h"
 #include "toolkit/refusal.h"
+
+#include <QPrintDialog>
+#include <QPrinter>
+
+#include <utility>
 
 namespace veln {
 
@@ -13,7 +14,9 @@ Program::Program(Dialogs& dialogs, Clock clock, QSettings& settings)
     : ChoosePrinter([](QPrinter& printer, QWidget* parent) {
         return QPrintDialog(&printer, parent).exec() == QDialog::Accepted;
       }),
-      dialogs_(dialogs), clock_(std::move(clock)), settings_(settings)
+      dialogs_(dialogs),
+      clock_(std::move(clock)),
+      settings_(settings)
 {
 }
 
@@ -51,7 +54,8 @@ void Program::OnChange(QObject* owner, std::function<void()> listener)
 ChildWindow* Program::FindWindow(const char* name) const
 {
   const auto found = windows_.find(name);
-  return found == windows_.end() || !found->second || found->second->Unloaded() ? nullptr : found->second.data();
+  return found == windows_.end() || !found->second || found->second->Unloaded() ? nullptr
+                                                                                : found->second.data();
 }
 
 void Program::Open(const char* name, ChildWindow* window)

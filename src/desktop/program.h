@@ -1,15 +1,16 @@
 #pragma once
 
-#include <QPointer>
-#include <QSettings>
-#include <QString>
-#include <functional>
-#include <map>
-#include <vector>
-
 #include "toolkit/clock.h"
 #include "toolkit/dialogs.h"
 #include "workspace/survey_state.h"
+
+#include <QPointer>
+#include <QSettings>
+#include <QString>
+
+#include <functional>
+#include <map>
+#include <vector>
 
 class QPrinter;
 class QWidget;
@@ -18,8 +19,8 @@ namespace veln {
 
 class ChildWindow;
 
-/// What the windows share: the one survey record, the services that the engine asks for, and the windows that are open.
-/// Lives as long as the program.
+/// What the windows share: the one survey record, the services that the engine asks for, and the windows that
+/// are open. Lives as long as the program.
 class Program {
  public:
   /// Lets the user choose a printer; false when the user cancels.
@@ -47,8 +48,8 @@ class Program {
   /// Has `listener` called at each change for as long as `owner` lives.
   void OnChange(QObject* owner, std::function<void()> listener);
 
-  /// Brings a window up: the one that is open, or a new one, loaded afresh. Null if its loading was refused or if it did
-  /// not want to stay open.
+  /// Brings a window up: the one that is open, or a new one, loaded afresh. Null if its loading was refused
+  /// or if it did not want to stay open.
   template <class Window>
   Window* Show();
   /// The window of that class if it is open, or null.

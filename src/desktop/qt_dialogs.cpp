@@ -1,11 +1,11 @@
 #include "desktop/qt_dialogs.h"
 
+#include "desktop/controls.h"
+#include "toolkit/editor_command.h"
+
 #include <QApplication>
 #include <QFileDialog>
 #include <QMessageBox>
-
-#include "desktop/controls.h"
-#include "toolkit/editor_command.h"
 
 namespace veln {
 
@@ -44,7 +44,8 @@ void QtDialogs::Beep()
 
 std::optional<std::filesystem::path> QtDialogs::ShowOpen(const FileQuestion& question)
 {
-  QFileDialog dialog(QApplication::activeWindow(), ToQt(question.DialogTitle), ToQt(question.InitDir.string()));
+  QFileDialog dialog(QApplication::activeWindow(), ToQt(question.DialogTitle),
+                     ToQt(question.InitDir.string()));
   dialog.setObjectName("CommonDialog");
   dialog.setFileMode(question.MustExist ? QFileDialog::ExistingFile : QFileDialog::AnyFile);
   dialog.setAcceptMode(QFileDialog::AcceptOpen);

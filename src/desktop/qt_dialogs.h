@@ -1,11 +1,11 @@
 #pragma once
 
+#include "toolkit/dialogs.h"
+
 #include <filesystem>
 #include <optional>
 #include <string>
 #include <vector>
-
-#include "toolkit/dialogs.h"
 
 namespace veln {
 

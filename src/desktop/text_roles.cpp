@@ -4,6 +4,7 @@
 #include <QPalette>
 #include <QVariant>
 #include <QWidget>
+
 #include <array>
 
 namespace veln {
@@ -17,7 +18,8 @@ struct RoleTones {
   QRgb OnDark;
 };
 
-/// By role. The dark tones have a contrast of at least 4.5 to any ground that is darker than mid grey (70, 70, 70).
+/// By role. The dark tones have a contrast of at least 4.5 to any ground that is darker than mid grey (70,
+/// 70, 70).
 constexpr std::array<RoleTones, 6> Tones = {{{qRgb(0, 0, 0), qRgb(252, 252, 252)},
                                              {qRgb(0, 0, 255), qRgb(150, 180, 255)},
                                              {qRgb(0, 128, 0), qRgb(125, 215, 125)},

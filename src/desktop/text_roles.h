@@ -7,8 +7,8 @@ class QWidget;
 
 namespace veln {
 
-/// What the colour of a text means. On a light palette the colours are exact; on a dark one a tone of the same hue that
-/// reads well.
+/// What the colour of a text means. On a light palette the colours are exact; on a dark one a tone of the
+/// same hue that reads well.
 enum class TextRole {
   Normal,   ///< black
   Chosen,   ///< light blue (0, 0, 255): selected, switched on

@@ -1,12 +1,12 @@
 #include "signal/decorrelation.h"
 
-#include <cmath>
-#include <utility>
-#include <vector>
-
 #include "survey/statistics.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
+
+#include <cmath>
+#include <utility>
+#include <vector>
 
 namespace veln {
 
@@ -46,12 +46,14 @@ DecorrelatedSignals DecorrelatePair(const SurveyState& state)
   const Moments second = SpreadOf(state, 1);
   const auto r = Correlation(state.Signal1, state.Signal2);
   if (!r) {
-    throw Refusal("Error!  The values of the two signal columns are too large or too small\n"
-                  "for their correlation.  The signal data can not be decorrelated.");
+    throw Refusal(
+        "Error!  The values of the two signal columns are too large or too small\n"
+        "for their correlation.  The signal data can not be decorrelated.");
   }
   if (std::abs(*r) >= LargestCorrelation) {
-    throw Refusal("Error!  The two signal columns are perfectly correlated (r = " + FormatNumber(*r, "0.0000") +
-                  "),\nso that the second tells nothing new.  The signal data can not be decorrelated.");
+    throw Refusal(
+        "Error!  The two signal columns are perfectly correlated (r = " + FormatNumber(*r, "0.0000") +
+        "),\nso that the second tells nothing new.  The signal data can not be decorrelated.");
   }
   DecorrelatedSignals result;
   result.Z1.reserve(state.Signal1.size());
@@ -132,7 +134,8 @@ DecorrelationCounts DecorrelateSignals(SurveyState& state, const DecorrelationLe
   state.Menu.Require(MenuEntry::mnuSigD, "Signal decorrelation");
   DecorrelatedSignals signals = state.SignalCount == 2 ? DecorrelatePair(state) : DecorrelateOne(state);
   if (!AllFinite(signals.Z1) || !AllFinite(signals.Z2)) {
-    throw Refusal("Error!  The signal values are too large or too small.\nThe signal data can not be decorrelated.");
+    throw Refusal(
+        "Error!  The signal values are too large or too small.\nThe signal data can not be decorrelated.");
   }
   state.Decorr1 = std::move(signals.Z1);
   state.Decorr2 = std::move(signals.Z2);

@@ -6,7 +6,8 @@ namespace veln {
 
 namespace {
 
-/// Whether a site lies in the first or last 4 percent of its row, measured in a straight line from the row's first site.
+/// Whether a site lies in the first or last 4 percent of its row, measured in a straight line from the row's
+/// first site.
 bool IsAtRowEnd(const SurveyState& state, const SurveyRow& row, std::size_t i)
 {
   constexpr double FirstPart = 0.04;

@@ -1,15 +1,15 @@
 #pragma once
 
-#include <vector>
-
 #include "signal/row_table.h"
 #include "workspace/survey_state.h"
 
+#include <vector>
+
 namespace veln {
 
-/// Masks the sites in the first and last 4 percent of each row's length and, with `rowbuf`, all sites of the first and
-/// the last row. Returns the number of masking steps, in which a site may count more than once. Every site of a row whose
-/// ends coincide lies at a row end.
+/// Masks the sites in the first and last 4 percent of each row's length and, with `rowbuf`, all sites of the
+/// first and the last row. Returns the number of masking steps, in which a site may count more than once.
+/// Every site of a row whose ends coincide lies at a row end.
 int EdgeBuffer(SurveyState& state, const std::vector<SurveyRow>& rows, bool rowbuf);
 
 }  // namespace veln

@@ -1,11 +1,11 @@
 #include "signal/info_file.h"
 
-#include <array>
-
 #include "signal/row_table.h"
 #include "toolkit/number_text.h"
 #include "toolkit/text_report.h"
 #include "toolkit/utf8.h"
+
+#include <array>
 
 namespace veln {
 
@@ -47,7 +47,7 @@ void PutStatistics(TextReport& report, const SurveyState& state)
 {
   struct StatisticsLine {
     const char* Caption;
-    std::string SignalRow::*Value;
+    std::string SignalRow::* Value;
   };
   const std::array<StatisticsLine, 5> lines = {{{"   N", &SignalRow::LblSz},
                                                 {"   Mean", &SignalRow::LblMu},

@@ -20,9 +20,9 @@ TextTable ListOutliers(const SurveyState& state)
     if (state.SiteStatus[i] != site_status::Outlier) {
       continue;
     }
-    std::vector<std::string> row = {GeneralForm(state.SiteId[i]), FormatNumber(state.CoordX[i], CoordinateFormat),
-                                    FormatNumber(state.CoordY[i], CoordinateFormat),
-                                    FormatNumber(state.Signal1[i], SignalFormat)};
+    std::vector<std::string> row = {
+        GeneralForm(state.SiteId[i]), FormatNumber(state.CoordX[i], CoordinateFormat),
+        FormatNumber(state.CoordY[i], CoordinateFormat), FormatNumber(state.Signal1[i], SignalFormat)};
     if (two) {
       row.push_back(FormatNumber(state.Signal2[i], SignalFormat));
     }

@@ -14,8 +14,8 @@ struct SurveyRow {
   bool operator==(const SurveyRow&) const = default;
 };
 
-/// The rows of a survey as it stands (`RowCount`, `RowStart`, `RowEnd`): a row is a run of consecutive sites with the same
-/// row number. At most 250 rows; none for a grid.
+/// The rows of a survey as it stands (`RowCount`, `RowStart`, `RowEnd`): a row is a run of consecutive sites
+/// with the same row number. At most 250 rows; none for a grid.
 std::vector<SurveyRow> InitRows(std::span<const std::int16_t> rowNumber);
 
 }  // namespace veln

@@ -1,9 +1,9 @@
 #include "signal/sig_decorr_form.h"
 
+#include "toolkit/number_text.h"
+
 #include <algorithm>
 #include <cmath>
-
-#include "toolkit/number_text.h"
 
 namespace veln {
 

@@ -1,16 +1,16 @@
 #pragma once
 
-#include <string>
-
 #include "signal/decorrelation.h"
+
+#include <string>
 
 namespace veln {
 
 /// What `frmSigDecorr` shows: the two levels, the warning, and the results of its last run.
 struct SigDecorrForm {
-  DecorrelationLevels Levels;   ///< `HScroll1` and `HScroll2`
-  std::string Label11;          ///< warning when a bar was held back
-  bool ResultsVisible = false;  ///< `Frame2`; `Command1` is hidden then and `Command2` reads "Finished"
+  DecorrelationLevels Levels;    ///< `HScroll1` and `HScroll2`
+  std::string Label11;           ///< warning when a bar was held back
+  bool ResultsVisible = false;   ///< `Frame2`; `Command1` is hidden then and `Command2` reads "Finished"
   bool Command3Visible = false;  ///< outliers can be listed
   DecorrelationCounts Counts;    ///< what `RetrieveCounts` hands over
   std::string Label3 = "n/a";    ///< sites above the masking level

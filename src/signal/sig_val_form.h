@@ -1,12 +1,13 @@
 #pragma once
 
-#include <string>
-
 #include "signal/validation.h"
+
+#include <string>
 
 namespace veln {
 
-/// What `frmSigVal` shows: the two ways to go on, and the options of an acceptance with what is enabled of them.
+/// What `frmSigVal` shows: the two ways to go on, and the options of an acceptance with what is enabled of
+/// them.
 struct SigValForm {
   bool Transect = false;
   bool OutliersFound = false;

@@ -1,17 +1,17 @@
 #include "signal/transition_analysis.h"
 
-#include <algorithm>
-#include <cmath>
-
 #include "survey/field_extent.h"
 #include "toolkit/number_text.h"
 #include "toolkit/text_report.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace veln {
 
 namespace {
 
-constexpr std::size_t Reach = 3;         // neighbours on either side
+constexpr std::size_t Reach = 3;          // neighbours on either side
 constexpr std::size_t ShortestSpan = 10;  // last minus first index of a row that can be scored
 
 /// The third neighbours lie at comparable distances: neither more than twice as far as the other.
@@ -26,7 +26,8 @@ bool IsEvenlySpaced(const SurveyState& state, std::size_t i)
 bool IsNumberedOn(const SurveyState& state, std::size_t i)
 {
   constexpr int Step = static_cast<int>(Reach);
-  return state.SiteId[i + Reach] == state.SiteId[i] + Step && state.SiteId[i - Reach] == state.SiteId[i] - Step;
+  return state.SiteId[i + Reach] == state.SiteId[i] + Step &&
+         state.SiteId[i - Reach] == state.SiteId[i] - Step;
 }
 
 /// Root mean square difference of the six neighbours' z1 from the site's own.
@@ -38,7 +39,8 @@ double ComputeTV(const SurveyState& state, std::size_t i)
     return difference * difference;
   };
   return std::sqrt(
-      (square(i - 3) + square(i - 2) + square(i - 1) + square(i + 1) + square(i + 2) + square(i + 3)) / Neighbours);
+      (square(i - 3) + square(i - 2) + square(i - 1) + square(i + 1) + square(i + 2) + square(i + 3)) /
+      Neighbours);
 }
 
 void ScoreRow(const SurveyState& state, const SurveyRow& row, std::vector<double>& scores)

@@ -1,7 +1,5 @@
 #include "signal/validation.h"
 
-#include <algorithm>
-
 #include "signal/edge_buffer.h"
 #include "signal/info_file.h"
 #include "signal/row_table.h"
@@ -11,6 +9,8 @@
 #include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
+
+#include <algorithm>
 
 namespace veln {
 
@@ -89,7 +89,8 @@ int DeleteOutliers(SurveyState& state)
   for (const std::int16_t status : state.SiteStatus) {
     stays.push_back(status != site_status::Outlier);
   }
-  for (auto* column : {&state.CoordX, &state.CoordY, &state.Signal1, &state.Signal2, &state.Decorr1, &state.Decorr2}) {
+  for (auto* column :
+       {&state.CoordX, &state.CoordY, &state.Signal1, &state.Signal2, &state.Decorr1, &state.Decorr2}) {
     Compact(*column, stays);
   }
   for (auto* column : {&state.SiteId, &state.RowNumber, &state.SiteStatus}) {

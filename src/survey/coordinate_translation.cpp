@@ -1,12 +1,12 @@
 #include "survey/coordinate_translation.h"
 
+#include "survey/statistics.h"
+#include "toolkit/refusal.h"
+
 #include <cmath>
 #include <numbers>
 #include <utility>
 #include <vector>
-
-#include "survey/statistics.h"
-#include "toolkit/refusal.h"
 
 namespace veln {
 
@@ -58,8 +58,9 @@ void TranslateCoordinates(SurveyState& state, const CoordinateTranslation& trans
       break;
   }
   if (!AllFinite(x) || !AllFinite(y)) {
-    throw Refusal("Error!  The coordinates are too large for this translation!\n"
-                  "The coordinates have been left as they were.");
+    throw Refusal(
+        "Error!  The coordinates are too large for this translation!\n"
+        "The coordinates have been left as they were.");
   }
   state.CoordX = std::move(x);
   state.CoordY = std::move(y);

@@ -1,12 +1,12 @@
 #include "survey/data_load.h"
 
-#include <cmath>
-#include <cstddef>
-#include <optional>
-
 #include "survey/raw_items.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
+
+#include <cmath>
+#include <cstddef>
+#include <optional>
 
 namespace veln {
 
@@ -23,7 +23,8 @@ constexpr const char* NonNumericData =
     "Error!  Non-numeric data was detected in input file!\nData import process has been aborted!\n \n"
     "Please edit this file before attempting to import it again.";
 constexpr const char* NonPositiveData =
-    "Error!  Non-positive signal data was detected in input file!\nThis signal data can not be log transformed.\n"
+    "Error!  Non-positive signal data was detected in input file!\nThis signal data can not be log "
+    "transformed.\n"
     "Data import process has been aborted!";
 constexpr const char* FewerColumns =
     "Error!  There are fewer data columns present in input file\n"
@@ -44,7 +45,8 @@ void Report(const ImportProgress& progress, ImportPass pass, int count)
 int ScanLines(std::string_view content, const ImportProgress& progress)
 {
   const std::size_t lines = CountLines(content);
-  for (int count = CounterStep; static_cast<std::size_t>(count) <= lines && count <= MostSites; count += CounterStep) {
+  for (int count = CounterStep; static_cast<std::size_t>(count) <= lines && count <= MostSites;
+       count += CounterStep) {
     Report(progress, ImportPass::Scanning, count);
   }
   if (lines > MostSites) {
@@ -97,7 +99,10 @@ class RecordReader {
   }
 
   /// Which way the columns differ from what was told shows in how far the records have come.
-  [[nodiscard]] const char* ColumnMismatch() const { return count_ < surveySize_ ? FewerColumns : MoreColumns; }
+  [[nodiscard]] const char* ColumnMismatch() const
+  {
+    return count_ < surveySize_ ? FewerColumns : MoreColumns;
+  }
 
  private:
   [[nodiscard]] std::int16_t Whole(double number) const
@@ -147,7 +152,8 @@ void TestRowNumbers(const std::vector<std::int16_t>& rows)
 
 }  // namespace
 
-RawSurvey DataLoad(std::string_view content, const RecordLayout& layout, bool log, const ImportProgress& progress)
+RawSurvey DataLoad(std::string_view content, const RecordLayout& layout, bool log,
+                   const ImportProgress& progress)
 {
   content = SkipByteOrderMark(content);
   const int surveySize = ScanLines(content, progress);

@@ -1,8 +1,8 @@
 #include "survey/field_extent.h"
 
-#include <cmath>
-
 #include "toolkit/refusal.h"
+
+#include <cmath>
 
 namespace veln {
 

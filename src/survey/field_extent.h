@@ -15,7 +15,8 @@ struct FieldExtent {
 
 FieldExtent MeasureField(const SurveyState& state);
 
-/// Throws Refusal if distances in the field can't be computed: its coordinates are so large that squares leave the doubles.
+/// Throws Refusal if distances in the field can't be computed: its coordinates are so large that squares
+/// leave the doubles.
 void RequireMeasurable(const FieldExtent& field);
 
 /// The straight-line distance of two sites.

@@ -9,14 +9,14 @@ namespace veln {
 /// The content of a raw file without a leading UTF-8 byte order mark.
 std::string_view SkipByteOrderMark(std::string_view content);
 
-/// The number of lines, whatever they hold. Lines end at CR LF, LF or CR; a last line without an end counts, the empty
-/// rest behind a final line end does not.
+/// The number of lines, whatever they hold. Lines end at CR LF, LF or CR; a last line without an end counts,
+/// the empty rest behind a final line end does not.
 std::size_t CountLines(std::string_view content);
 
-/// Takes the items of a raw survey file one by one off its character stream. An item ends at a comma, at blanks, tabs
-/// or a line end; a line end has no other meaning. A comma behind an item on its line belongs to that item; a comma that
-/// comes first on its line or behind another comma is an empty item. An item that begins with a double quote runs to
-/// the next one and is taken without them.
+/// Takes the items of a raw survey file one by one off its character stream. An item ends at a comma, at
+/// blanks, tabs or a line end; a line end has no other meaning. A comma behind an item on its line belongs to
+/// that item; a comma that comes first on its line or behind another comma is an empty item. An item that
+/// begins with a double quote runs to the next one and is taken without them.
 class RawItems {
  public:
   /// `content` must outlive the reader.

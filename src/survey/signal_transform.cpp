@@ -1,12 +1,12 @@
 #include "survey/signal_transform.h"
 
+#include "survey/statistics.h"
+#include "toolkit/refusal.h"
+
 #include <algorithm>
 #include <cmath>
 #include <utility>
 #include <vector>
-
-#include "survey/statistics.h"
-#include "toolkit/refusal.h"
 
 namespace veln {
 
@@ -32,7 +32,8 @@ void ApplyLog(HeldSignals& signals)
   const auto positive = [](double value) { return value > 0; };
   for (const auto& column : signals.Columns) {
     if (!std::ranges::all_of(column, positive)) {
-      throw Refusal("Error!  Non-positive signal data detected!\nThis signal data can not be log transformed.");
+      throw Refusal(
+          "Error!  Non-positive signal data detected!\nThis signal data can not be log transformed.");
     }
   }
   EachValue(signals, [](double value) { return std::log(value); });
@@ -60,8 +61,9 @@ void RequireStatistics(const HeldSignals& signals)
 {
   for (const auto& column : signals.Columns) {
     if (!AllFinite(column) || !IsFinite(DescribeSignal(column))) {
-      throw Refusal("Error!  The changed signal data would be too large to compute with!\n"
-                    "The signal data have been left as they were.");
+      throw Refusal(
+          "Error!  The changed signal data would be too large to compute with!\n"
+          "The signal data have been left as they were.");
     }
   }
 }

@@ -1,9 +1,9 @@
 #pragma once
 
+#include "workspace/survey_state.h"
+
 #include <array>
 #include <string>
-
-#include "workspace/survey_state.h"
 
 namespace veln {
 
@@ -21,9 +21,10 @@ struct BasicStatsForm {
 /// Opens `frmBasicStats`: what the survey's present transformation and units offer, nothing checked.
 BasicStatsForm LoadBasicStatsForm(const SurveyState& state);
 
-/// Takes the labels, then transforms and rescales the signals as checked, in that order, and refreshes the statistics.
-/// On logarithms a change of scale adds ln(100) or ln(0.01) instead of multiplying. Throws Refusal when the step is closed,
-/// when signals are not positive, or when a result would leave the doubles: the labels stand then, the signals do not change.
+/// Takes the labels, then transforms and rescales the signals as checked, in that order, and refreshes the
+/// statistics. On logarithms a change of scale adds ln(100) or ln(0.01) instead of multiplying. Throws
+/// Refusal when the step is closed, when signals are not positive, or when a result would leave the doubles:
+/// the labels stand then, the signals do not change.
 void ComputeSignals(SurveyState& state, const BasicStatsForm& form);
 
 }  // namespace veln

@@ -1,11 +1,11 @@
 #include "survey/statistics.h"
 
+#include "toolkit/number_text.h"
+#include "toolkit/refusal.h"
+
 #include <algorithm>
 #include <cmath>
 #include <string>
-
-#include "toolkit/number_text.h"
-#include "toolkit/refusal.h"
 
 namespace veln {
 

@@ -1,10 +1,10 @@
 #pragma once
 
+#include "workspace/survey_state.h"
+
 #include <optional>
 #include <span>
 #include <vector>
-
-#include "workspace/survey_state.h"
 
 namespace veln {
 
@@ -21,14 +21,16 @@ struct Moments {
   double Count = 0;
 };
 
-/// Lowest and highest value. They start from the sentinels 1E+24 and -1E+24, which stand when no value beats them.
+/// Lowest and highest value. They start from the sentinels 1E+24 and -1E+24, which stand when no value beats
+/// them.
 Limits MinMax(std::span<const double> series);
 
-/// Mean and sample standard deviation, in two passes in index order. Throws Refusal for fewer than two values.
+/// Mean and sample standard deviation, in two passes in index order. Throws Refusal for fewer than two
+/// values.
 Moments MeanStd(std::span<const double> series);
 
-/// Pearson's correlation of two series of one length, with the sums of squares rebuilt from the standard deviations.
-/// Empty when it is not defined: a series is constant, or a sum leaves the doubles.
+/// Pearson's correlation of two series of one length, with the sums of squares rebuilt from the standard
+/// deviations. Empty when it is not defined: a series is constant, or a sum leaves the doubles.
 std::optional<double> Correlation(std::span<const double> x, std::span<const double> y);
 
 /// Whether all values are equal. (The computed deviation of equal values may be a rounding residue.)
@@ -48,7 +50,8 @@ SignalStatistics DescribeSignal(std::span<const double> signal);
 /// Whether mean, deviation and limits are all numbers: false for signals whose squares leave the doubles.
 bool IsFinite(const SignalStatistics& statistics);
 
-/// Recomputes the statistics panel from the signals and shows it. An undefined correlation shows as an empty text.
+/// Recomputes the statistics panel from the signals and shows it. An undefined correlation shows as an empty
+/// text.
 void UpdateSignalStats(SurveyState& state);
 
 }  // namespace veln

@@ -1,11 +1,11 @@
 #include "survey/survey_export.h"
 
-#include <vector>
-
 #include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
 #include "toolkit/text_report.h"
+
+#include <vector>
 
 namespace veln {
 

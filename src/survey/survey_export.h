@@ -1,10 +1,10 @@
 #pragma once
 
+#include "workspace/survey_state.h"
+
 #include <filesystem>
 #include <functional>
 #include <string>
-
-#include "workspace/survey_state.h"
 
 namespace veln {
 
@@ -23,8 +23,8 @@ struct ExportResult {
   std::string Reason;  ///< why it could not be written; empty on success
 };
 
-/// Exports the processed survey to `data.svy` in the project directory. A failure leaves an older file whole and is told
-/// in the result. Throws Refusal while no design is saved.
+/// Exports the processed survey to `data.svy` in the project directory. A failure leaves an older file whole
+/// and is told in the result. Throws Refusal while no design is saved.
 ExportResult MakeOutF(const SurveyState& state, const ExportProgress& progress = {});
 
 /// The timer of `frmOutFD`: the file is written on the second tick, once for each opening of the window.

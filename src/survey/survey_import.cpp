@@ -1,12 +1,12 @@
 #include "survey/survey_import.h"
 
-#include <system_error>
-#include <utility>
-
 #include "survey/statistics.h"
 #include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
+
+#include <system_error>
+#include <utility>
 
 namespace veln {
 
@@ -22,7 +22,9 @@ void TestSignals(const RawSurvey& survey, const ImportRequest& request)
   for (std::size_t i = 0; i < (two ? 2U : 1U); ++i) {
     const std::string name = "Error!  The signal column \"" + request.Labels.at(i) + "\" ";
     if (two && IsConstant(*columns.at(i))) {
-      throw Refusal(name + "is constant: all its values are equal,\nso that two signals can not be compared." + Aborted);
+      throw Refusal(name +
+                    "is constant: all its values are equal,\nso that two signals can not be compared." +
+                    Aborted);
     }
     if (!IsFinite(DescribeSignal(*columns.at(i)))) {
       throw Refusal(name + "holds values too large for its statistics." + Aborted);

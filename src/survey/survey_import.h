@@ -1,10 +1,10 @@
 #pragma once
 
-#include <array>
-#include <string>
-
 #include "survey/data_load.h"
 #include "workspace/survey_state.h"
+
+#include <array>
+#include <string>
 
 namespace veln {
 
@@ -17,9 +17,9 @@ struct ImportRequest {
   bool Log = false;            ///< natural log transform
 };
 
-/// Reads a raw survey file into the record, shows its statistics and opens graphics, transformation and decorrelation.
-/// Throws Refusal, with the record as it was, when the import is closed, the file is missing or faulty, its numbers are
-/// too large for its statistics, or a column of a two-signal survey is constant.
+/// Reads a raw survey file into the record, shows its statistics and opens graphics, transformation and
+/// decorrelation. Throws Refusal, with the record as it was, when the import is closed, the file is missing
+/// or faulty, its numbers are too large for its statistics, or a column of a two-signal survey is constant.
 void ImportSurvey(SurveyState& state, const ImportRequest& request, const ImportProgress& progress = {});
 
 }  // namespace veln

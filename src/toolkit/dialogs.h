@@ -25,8 +25,8 @@ struct FileQuestion {
   bool MustExist = true;
 };
 
-/// All that the engine may ask of a person or of the desktop. The window program shows boxes, the command line
-/// prints or answers from its options, tests answer from a script and read what was said.
+/// All that the engine may ask of a person or of the desktop. The window program shows boxes, the command
+/// line prints or answers from its options, tests answer from a script and read what was said.
 class Dialogs {
  public:
   Dialogs() = default;

@@ -1,15 +1,14 @@
 #include "toolkit/editor_command.h"
 
-#include <fcntl.h>
-#include <sys/wait.h>
-#include <unistd.h>
+#include "toolkit/refusal.h"
 
 #include <array>
 #include <cerrno>
+#include <fcntl.h>
 #include <filesystem>
+#include <sys/wait.h>
 #include <system_error>
-
-#include "toolkit/refusal.h"
+#include <unistd.h>
 
 namespace veln {
 
@@ -70,7 +69,8 @@ std::vector<std::string> EditorCommand(const std::string& editor, const std::str
     command = SplitAtBlanks(whole);
   }
   if (command.empty()) {
-    throw Refusal("No text editor is set.\nPlease choose one under \"VELN Interface Controls\" of the Help menu.");
+    throw Refusal(
+        "No text editor is set.\nPlease choose one under \"VELN Interface Controls\" of the Help menu.");
   }
   command.push_back(document);
   return command;

@@ -1,16 +1,16 @@
 #include "toolkit/file_store.h"
 
-#include <fcntl.h>
-#include <sys/stat.h>
-#include <unistd.h>
+#include "toolkit/refusal.h"
 
+#include <algorithm>
 #include <array>
 #include <cerrno>
 #include <cstddef>
+#include <fcntl.h>
 #include <optional>
+#include <sys/stat.h>
 #include <system_error>
-
-#include "toolkit/refusal.h"
+#include <unistd.h>
 
 namespace veln {
 
@@ -92,7 +92,9 @@ class Replacement {
   }
 
   Replacement(Replacement&& other) noexcept
-      : target_(std::move(other.target_)), fresh_(std::move(other.fresh_)), older_(std::move(other.older_)),
+      : target_(std::move(other.target_)),
+        fresh_(std::move(other.fresh_)),
+        older_(std::move(other.older_)),
         inPlace_(other.inPlace_)
   {
     other.fresh_.clear();
@@ -165,7 +167,7 @@ class Replacement {
 
 }  // namespace
 
-std::string ReadFile(const fs::path& path)
+std::string ReadFile(const fs::path& path, std::size_t mostBytes)
 {
   const Descriptor file(open(path.c_str(), O_RDONLY | O_CLOEXEC));
   if (file.Number() < 0) {
@@ -174,7 +176,8 @@ std::string ReadFile(const fs::path& path)
   std::string content;
   std::array<char, 1U << 16U> block{};
   for (;;) {
-    const ssize_t count = read(file.Number(), block.data(), block.size());
+    const std::size_t wanted = std::min(block.size(), mostBytes - content.size());
+    const ssize_t count = read(file.Number(), block.data(), wanted);
     if (count == 0) {
       return content;
     }

@@ -1,6 +1,8 @@
 #pragma once
 
+#include <cstddef>
 #include <filesystem>
+#include <limits>
 #include <string>
 #include <vector>
 
@@ -12,12 +14,14 @@ struct ComposedFile {
   std::string Content;
 };
 
-/// The whole content of a file, byte for byte. Throws Refusal with the file's name and the system's reason.
-std::string ReadFile(const std::filesystem::path& path);
+/// The content of a file, byte for byte, or as much of its beginning as `mostBytes`. Throws Refusal with the
+/// file's name and the system's reason.
+std::string ReadFile(const std::filesystem::path& path,
+                     std::size_t mostBytes = std::numeric_limits<std::size_t>::max());
 
-/// Puts files that belong together in place, all of them or none: each is written beside its target, flushed to
-/// disk and renamed over it. Older files of these names are replaced on success and stay whole on failure, and
-/// nothing else is left behind. Throws Refusal with the file's name and the system's reason.
+/// Puts files that belong together in place, all of them or none: each is written beside its target, flushed
+/// to disk and renamed over it. Older files of these names are replaced on success and stay whole on failure,
+/// and nothing else is left behind. Throws Refusal with the file's name and the system's reason.
 void WriteFiles(const std::vector<ComposedFile>& files);
 
 /// Makes one directory. Throws Refusal with the system's text if it can't, also if it exists already.

@@ -38,8 +38,8 @@ Decimal ToDecimal(double value)
   return decimal;
 }
 
-/// The digits of `decimal` as a plain number, without sign: those before the point (none for a number below 1)
-/// and those behind it, without trailing zeros.
+/// The digits of `decimal` as a plain number, without sign: those before the point (none for a number below
+/// 1) and those behind it, without trailing zeros.
 struct PlainDigits {
   std::string Whole;
   std::string Fraction;
@@ -144,7 +144,8 @@ bool IsExponent(std::string_view text)
   return text.size() > 1 + sign && SkipDigits(text, 1 + sign) == text.size();
 }
 
-/// The power of ten of the first digit that is not zero; only its sign matters, for a number outside the doubles.
+/// The power of ten of the first digit that is not zero; only its sign matters, for a number outside the
+/// doubles.
 long LeadingPower(std::string_view mantissa, std::string_view exponent)
 {
   const auto point = static_cast<long>(std::min(mantissa.find('.'), mantissa.size()));

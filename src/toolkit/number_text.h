@@ -19,16 +19,16 @@ std::string NumberToString(double value);
 /// The form of a number in a text file: the number-to-string form and one trailing blank (" .5 ").
 std::string PrintedNumber(double value);
 
-/// A number as a format pattern shows it ("0.00", "##0.000", "0.0#####"). "0" is a digit that always shows, "#"
-/// one that shows only if needed. Rounds halves away from zero on the decimal form with 15 significant digits,
-/// as a person reads the number: 1.575, held as 1.57499999999999996, shows as 1.58 with "0.00".
+/// A number as a format pattern shows it ("0.00", "##0.000", "0.0#####"). "0" is a digit that always shows,
+/// "#" one that shows only if needed. Rounds halves away from zero on the decimal form with 15 significant
+/// digits, as a person reads the number: 1.575, held as 1.57499999999999996, shows as 1.58 with "0.00".
 std::string FormatNumber(double value, std::string_view pattern);
 
 /// The value that `FormatNumber` shows, as a double again: the pattern only bounds its decimals.
 double RoundByFormat(double value, std::string_view pattern);
 
-/// Reads one number: optional sign, digits with an optional point, optional exponent with E or e, nothing else.
-/// Text beyond the doubles (1E999) is not a number; text below them (1E-999) is 0.
+/// Reads one number: optional sign, digits with an optional point, optional exponent with E or e, nothing
+/// else. Text beyond the doubles (1E999) is not a number; text below them (1E-999) is 0.
 std::optional<double> ParseNumber(std::string_view text);
 
 /// Rounds to the nearest 16-bit integer, a tie to the even neighbour. Empty when that leaves the 16 bits.

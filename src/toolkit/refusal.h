@@ -13,8 +13,8 @@ enum class RefusalKind {
   FieldUse  ///< the field ID is in use and the user did not want to overwrite
 };
 
-/// A check that failed: the message as the user reads it, lines joined by line feeds. Thrown before anything has
-/// changed, unless the thrower's description says what stands; shown by the front end in one place.
+/// A check that failed: the message as the user reads it, lines joined by line feeds. Thrown before anything
+/// has changed, unless the thrower's description says what stands; shown by the front end in one place.
 class Refusal : public std::exception {
  public:
   explicit Refusal(std::string message, RefusalKind kind = RefusalKind::Survey)

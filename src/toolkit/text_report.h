@@ -6,8 +6,9 @@
 
 namespace veln {
 
-/// A text file composed in memory, by the layout rules that all output files share: lines end in CR LF, columns
-/// count characters from 1, and an item whose column the line has already passed goes to that column of the next line.
+/// A text file composed in memory, by the layout rules that all output files share: lines end in CR LF,
+/// columns count characters from 1, and an item whose column the line has already passed goes to that column
+/// of the next line.
 class TextReport {
  public:
   /// Puts text at the present position, unchanged.

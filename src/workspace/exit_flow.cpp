@@ -11,8 +11,9 @@ ExitRoute RequestExit(const SurveyState& state, Dialogs& dialogs)
     return ExitRoute::Export;
   }
   dialogs.Beep();
-  return dialogs.Ask("Warning!  No sample designs have been created!  Do you still wish to exit?") ? ExitRoute::Leave
-                                                                                                   : ExitRoute::Stay;
+  return dialogs.Ask("Warning!  No sample designs have been created!  Do you still wish to exit?")
+             ? ExitRoute::Leave
+             : ExitRoute::Stay;
 }
 
 }  // namespace veln

@@ -1,9 +1,9 @@
 #include "workspace/project.h"
 
+#include "toolkit/refusal.h"
+
 #include <algorithm>
 #include <system_error>
-
-#include "toolkit/refusal.h"
 
 namespace veln {
 

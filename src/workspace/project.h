@@ -1,38 +1,41 @@
 #pragma once
 
+#include "toolkit/dialogs.h"
+#include "workspace/survey_state.h"
+
 #include <filesystem>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "toolkit/dialogs.h"
-#include "workspace/survey_state.h"
-
 namespace veln {
 
-/// One or more characters, each a digit, an ASCII letter, "_" or "."; the names "." and ".." are not projects.
+/// One or more characters, each a digit, an ASCII letter, "_" or "."; the names "." and ".." are not
+/// projects.
 bool IsProjectName(std::string_view name);
 
 /// Exactly 4 characters, each a digit or an ASCII letter.
 bool IsFieldId(std::string_view code);
 
-/// The projects of a program directory, by name: every directory under its `data`. Throws Refusal with the program's
-/// warning if `data` can't be listed.
+/// The projects of a program directory, by name: every directory under its `data`. Throws Refusal with the
+/// program's warning if `data` can't be listed.
 std::vector<std::string> ListProjects(const std::filesystem::path& programDir);
 
 /// The question of `CheckAlphaCode`, for a field ID that is in use.
 std::string FieldInUseQuestion();
 
-/// Whether the field was worked on before: its information file, which every finished validation writes, exists.
-bool IsFieldInUse(const std::filesystem::path& programDir, const std::string& project, const std::string& fieldId);
+/// Whether the field was worked on before: its information file, which every finished validation writes,
+/// exists.
+bool IsFieldInUse(const std::filesystem::path& programDir, const std::string& project,
+                  const std::string& fieldId);
 
-/// The overwrite check: asks, after a beep, if the field is in use. True: go on; false: the user is choosing another
-/// code.
-bool CheckAlphaCode(const std::filesystem::path& programDir, const std::string& project, const std::string& fieldId,
-                    Dialogs& dialogs);
+/// The overwrite check: asks, after a beep, if the field is in use. True: go on; false: the user is choosing
+/// another code.
+bool CheckAlphaCode(const std::filesystem::path& programDir, const std::string& project,
+                    const std::string& fieldId, Dialogs& dialogs);
 
-/// Takes project, field ID and description into the survey record and opens the import. Throws Refusal once a survey is
-/// imported.
+/// Takes project, field ID and description into the survey record and opens the import. Throws Refusal once a
+/// survey is imported.
 void AcceptProject(SurveyState& state, const std::string& project, const std::string& fieldId,
                    const std::string& description);
 

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <string>
-#include <vector>
-
 #include "toolkit/dialogs.h"
 #include "workspace/survey_state.h"
+
+#include <string>
+#include <vector>
 
 namespace veln {
 
@@ -40,8 +40,8 @@ void BeginProjectCreation(ProjectForm& form);
 /// `Command4` "Cancel" of the creation.
 void CancelProjectCreation(ProjectForm& form);
 
-/// `Command3` "Create": makes the directory of the project in `Text1` and chooses it. Tells a name against the rule or
-/// the system's reason in a message box and changes nothing then.
+/// `Command3` "Create": makes the directory of the project in `Text1` and chooses it. Tells a name against
+/// the rule or the system's reason in a message box and changes nothing then.
 void CreateProject(ProjectForm& form, const SurveyState& state, Dialogs& dialogs);
 
 /// The keystroke filter of `Text1`: takes the key over, or beeps and drops it (false).
@@ -50,8 +50,8 @@ bool KeyInProjectName(ProjectForm& form, const Keystroke& key, Dialogs& dialogs)
 /// The keystroke filter of `Text3`. `Command1` and `LblFID` show on the fourth character alone.
 bool KeyInFieldId(ProjectForm& form, const Keystroke& key, Dialogs& dialogs);
 
-/// `Command1` "OK": the overwrite check, then project, field ID and description go into the record. False: the user is
-/// choosing another code, and the window stays open.
+/// `Command1` "OK": the overwrite check, then project, field ID and description go into the record. False:
+/// the user is choosing another code, and the window stays open.
 bool AcceptProjectForm(ProjectForm& form, SurveyState& state, Dialogs& dialogs);
 
 }  // namespace veln

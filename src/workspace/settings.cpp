@@ -1,12 +1,12 @@
 #include "workspace/settings.h"
 
-#include <algorithm>
-#include <string_view>
-
 #include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
 #include "toolkit/text_report.h"
+
+#include <algorithm>
+#include <string_view>
 
 namespace veln {
 
@@ -37,7 +37,8 @@ std::string_view TakeLine(std::string_view& rest)
   return line;
 }
 
-/// Takes a line's first item: what stands between its leading blanks and a comma. The rest of the line is skipped.
+/// Takes a line's first item: what stands between its leading blanks and a comma. The rest of the line is
+/// skipped.
 std::string TakeItem(std::string_view& rest)
 {
   const std::string_view line = TakeLine(rest);

@@ -1,10 +1,10 @@
 #pragma once
 
-#include <optional>
-#include <string>
-
 #include "toolkit/dialogs.h"
 #include "workspace/survey_state.h"
+
+#include <optional>
+#include <string>
 
 namespace veln {
 
@@ -24,11 +24,12 @@ struct FileIoForm {
   int SelectedFactor = 0;  ///< 1, 2 or 4; 0 when no option is selected
 };
 
-/// Opens `frmFileIO`: keeps the three values and selects the option of the printer's factor, if it is one of three.
+/// Opens `frmFileIO`: keeps the three values and selects the option of the printer's factor, if it is one of
+/// three.
 FileIoForm LoadFileIoForm(const SurveyState& state);
 
-/// `cmdBrowse`: a chosen program becomes the text editor behind one blank; without one the box shows the text that the
-/// window started with.
+/// `cmdBrowse`: a chosen program becomes the text editor behind one blank; without one the box shows the text
+/// that the window started with.
 void BrowseTextEditor(FileIoForm& form, SurveyState& state, const std::optional<std::string>& chosen);
 
 /// A click on a printer resolution: factor 1, 2 or 4.

@@ -1,12 +1,12 @@
 #pragma once
 
+#include "workspace/workflow.h"
+
 #include <array>
 #include <cstdint>
 #include <filesystem>
 #include <string>
 #include <vector>
-
-#include "workspace/workflow.h"
 
 namespace veln {
 
@@ -65,8 +65,8 @@ struct DesignPanel {
   bool operator==(const DesignPanel&) const = default;
 };
 
-/// The one record that holds a survey for the length of a program run. The front end owns the only one and hands it to
-/// the procedures; what a panel shows is the text that files carry.
+/// The one record that holds a survey for the length of a program run. The front end owns the only one and
+/// hands it to the procedures; what a panel shows is the text that files carry.
 struct SurveyState {
   // The survey.
   int SurveySize = 0;   ///< sites held; 50 to 30,000 after import, fewer after deletions
@@ -115,7 +115,8 @@ struct SurveyState {
 /// Whether the survey was walked along transect rows (and so has row numbers).
 bool IsTransect(const SurveyState& state);
 
-/// The path of an output file: `data`, project and field ID under the program directory, then `suffix` ("info.txt").
+/// The path of an output file: `data`, project and field ID under the program directory, then `suffix`
+/// ("info.txt").
 std::filesystem::path OutputPath(const SurveyState& state, const std::string& suffix);
 
 /// The name of an output file: the field ID and `suffix`.

@@ -1,11 +1,11 @@
 #include "workspace/workflow.h"
 
+#include "toolkit/refusal.h"
+
 #include <array>
 #include <cstddef>
 #include <initializer_list>
 #include <string>
-
-#include "toolkit/refusal.h"
 
 namespace veln {
 

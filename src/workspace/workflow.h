@@ -5,7 +5,18 @@
 namespace veln {
 
 /// The entries of the main menu that open and close as the work goes on. All others are always open.
-enum class MenuEntry { mnuProject, mnuImport, mnuVPOF, mnuSG, mnuStats, mnuSigD, mnuSigV, mnuSRS, mnuMask, mnuSHowMap };
+enum class MenuEntry {
+  mnuProject,
+  mnuImport,
+  mnuVPOF,
+  mnuSG,
+  mnuStats,
+  mnuSigD,
+  mnuSigV,
+  mnuSRS,
+  mnuMask,
+  mnuSHowMap
+};
 
 inline constexpr int MenuEntryCount = 10;
 
@@ -20,7 +31,8 @@ enum class WorkflowEvent {
   DesignsExhausted  ///< the fifth design was saved, or too few free sites are left
 };
 
-/// The gate of the whole program: the set of enabled entries of the main menu. At start only `mnuProject` is open.
+/// The gate of the whole program: the set of enabled entries of the main menu. At start only `mnuProject` is
+/// open.
 class Workflow {
  public:
   Workflow();

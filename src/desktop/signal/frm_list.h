@@ -1,6 +1,9 @@
 #pragma once
 
 #include "desktop/child_window.h"
+#include "signal/outlier_list.h"
+
+class QTableWidget;
 
 namespace veln {
 
@@ -10,6 +13,11 @@ class frmList : public ChildWindow {
   static constexpr const char* Name = "frmList";
 
   frmList(Program& program, QWidget* parent);
+
+ private:
+  void MakeMenus();
+
+  QTableWidget* grid_;
 };
 
 }  // namespace veln

@@ -1,8 +1,17 @@
 #pragma once
 
 #include "desktop/child_window.h"
+#include "workspace/project_form.h"
+
+class QGroupBox;
+class QLabel;
+class QLineEdit;
+class QListWidget;
+class QPushButton;
 
 namespace veln {
+
+class FilteredEdit;
 
 /// "Create / Set Project and Define Field ID Code".
 class frmProject : public ChildWindow {
@@ -10,6 +19,26 @@ class frmProject : public ChildWindow {
   static constexpr const char* Name = "frmProject";
 
   frmProject(Program& program, QWidget* parent);
+
+ private:
+  QGroupBox* MakeProjectList();
+  QGroupBox* MakeCreation();
+  QGroupBox* MakeIdentity();
+  void Accept();
+  void Mirror();
+
+  ProjectForm form_;
+  QListWidget* projects_;
+  QPushButton* begin_;
+  QLabel* nameCaption_;
+  FilteredEdit* name_;
+  QPushButton* create_;
+  QPushButton* cancelCreation_;
+  QLabel* project_;
+  QLabel* fieldId_;
+  QLineEdit* description_;
+  FilteredEdit* code_;
+  QPushButton* accept_;
 };
 
 }  // namespace veln

@@ -1,0 +1,38 @@
+#pragma once
+
+#include "workspace/project_form.h"
+
+#include <QLineEdit>
+
+#include <functional>
+
+namespace veln {
+
+/// A text box whose characters pass a filter one by one, as if typed: typed, pasted, dropped and composed
+/// text alike. Keys that enter no character pass silently; a deletion is told with the character 0.
+class FilteredEdit : public QLineEdit {
+ public:
+  /// Whether a key may pass; keeps what the box then holds.
+  using Filter = std::function<bool(const Keystroke& key)>;
+
+  FilteredEdit(QWidget* parent, Filter filter);
+  /// Puts a text into the box past the filter.
+  void Show(const QString& text);
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override;
+  void inputMethodEvent(QInputMethodEvent* event) override;
+  void contextMenuEvent(QContextMenuEvent* event) override;
+  void dropEvent(QDropEvent* event) override;
+  void mouseReleaseEvent(QMouseEvent* event) override;
+
+ private:
+  void Enter(const QString& text);
+  void EnterCharacter(char32_t character, const QString& text);
+  void PasteText();
+  void Delete(const std::function<void()>& deletion);
+
+  Filter filter_;
+};
+
+}  // namespace veln

@@ -1,0 +1,89 @@
+#include "desktop/survey/record_preview_table.h"
+
+#include "desktop/controls.h"
+#include "desktop/text_roles.h"
+#include "survey/record_preview.h"
+#include "toolkit/refusal.h"
+
+#include <QFileInfo>
+#include <QHeaderView>
+#include <QTableWidget>
+
+namespace veln {
+
+namespace {
+
+QTableWidgetItem* MakeItem(const std::string& text)
+{
+  auto* item = new QTableWidgetItem(ToQt(text));
+  item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+  return item;
+}
+
+void FillTable(QTableWidget& table, const RecordPreview& preview)
+{
+  table.setRowCount(static_cast<int>(preview.Records.size()));
+  table.setColumnCount(static_cast<int>(preview.Headings.size()));
+  for (std::size_t column = 0; column < preview.Headings.size(); ++column) {
+    table.setHorizontalHeaderItem(static_cast<int>(column), MakeItem(preview.Headings[column]));
+  }
+  for (std::size_t row = 0; row < preview.Records.size(); ++row) {
+    for (std::size_t column = 0; column < preview.Records[row].size(); ++column) {
+      table.setItem(static_cast<int>(row), static_cast<int>(column), MakeItem(preview.Records[row][column]));
+    }
+  }
+}
+
+QString MarkFault(QTableWidget& table, const RecordPreview::Fault& fault)
+{
+  QTableWidgetItem* item = table.item(static_cast<int>(fault.Record), static_cast<int>(fault.Item));
+  const QString reason = "Record " + QString::number(fault.Record + 1) + ", " +
+                         table.horizontalHeaderItem(static_cast<int>(fault.Item))->text() + ": \"" +
+                         item->text() + "\" would be refused: " + ToQt(fault.Reason) + ".";
+  QFont bold = item->font();
+  bold.setBold(true);
+  item->setFont(bold);
+  item->setForeground(RoleColour(TextRole::Warning, table.palette()));
+  item->setToolTip(reason);
+  return reason;
+}
+
+}  // namespace
+
+QTableWidget* MakePreviewTable(QWidget* parent)
+{
+  constexpr int VisibleRows = 5;
+  auto* table = new QTableWidget(parent);
+  table->setObjectName("preview");
+  table->setAccessibleName("First records of the file");
+  table->setTabKeyNavigation(false);
+  table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  table->setMinimumHeight(table->fontMetrics().lineSpacing() * 2 * VisibleRows);
+  return table;
+}
+
+QString FillPreviewTable(QTableWidget& table, const ImportRequest& request)
+{
+  table.clear();
+  table.setRowCount(0);
+  table.setColumnCount(0);
+  if (request.FileName.empty()) {
+    return "Choose a file, or drop it here: its first records will show as they would be read.";
+  }
+  if (!QFileInfo(ToQt(request.FileName)).isFile()) {
+    return "There is no such file.";
+  }
+  try {
+    const RecordPreview preview = PreviewFile(request.FileName, request.Layout, request.Log);
+    FillTable(table, preview);
+    if (preview.FirstFault) {
+      return MarkFault(table, *preview.FirstFault);
+    }
+    return preview.Records.empty() ? "The file is empty." : "The first records, as they would be read.";
+  } catch (const Refusal& refusal) {
+    return ToQt(refusal.Message()).replace('\n', ' ');
+  }
+}
+
+}  // namespace veln

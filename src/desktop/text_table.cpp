@@ -1,0 +1,121 @@
+#include "desktop/text_table.h"
+
+#include "desktop/controls.h"
+#include "toolkit/number_text.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QShortcut>
+#include <QTableWidget>
+
+#include <algorithm>
+
+namespace veln {
+
+namespace {
+
+/// A cell that sorts by the number that it shows.
+class NumberCell : public QTableWidgetItem {
+ public:
+  explicit NumberCell(const QString& text) : QTableWidgetItem(text)
+  {
+    setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+  }
+
+  bool operator<(const QTableWidgetItem& other) const override
+  {
+    const auto mine = ParseNumber(FromQt(text()));
+    const auto theirs = ParseNumber(FromQt(other.text()));
+    return mine && theirs ? *mine < *theirs : QTableWidgetItem::operator<(other);
+  }
+};
+
+std::vector<std::string> ReadRow(const QTableWidget& widget, int row)
+{
+  std::vector<std::string> cells;
+  for (int column = 0; column < widget.columnCount(); ++column) {
+    cells.push_back(FromQt(widget.item(row, column)->text()));
+  }
+  return cells;
+}
+
+void CopyRows(const QTableWidget& widget)
+{
+  TextTable table = ReadTextTable(widget);
+  const QModelIndexList selected = widget.selectionModel()->selectedRows();
+  if (!selected.isEmpty()) {
+    table.Rows.clear();
+    std::vector<int> rows;
+    for (const QModelIndex& index : selected) {
+      rows.push_back(index.row());
+    }
+    std::ranges::sort(rows);
+    for (const int row : rows) {
+      table.Rows.push_back(ReadRow(widget, row));
+    }
+  }
+  QGuiApplication::clipboard()->setText(TabSeparated(table));
+}
+
+}  // namespace
+
+QTableWidget* MakeTextTable(QWidget* parent, const char* name, const TextTable& table)
+{
+  const auto columns = static_cast<int>(table.Headings.size());
+  const auto rows = static_cast<int>(table.Rows.size());
+  auto* widget = new QTableWidget(rows, columns, parent);
+  widget->setObjectName(name);
+  for (int column = 0; column < columns; ++column) {
+    auto* heading = new QTableWidgetItem(ToQt(table.Headings[static_cast<std::size_t>(column)]));
+    heading->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    widget->setHorizontalHeaderItem(column, heading);
+    for (int row = 0; row < rows; ++row) {
+      const auto& cells = table.Rows[static_cast<std::size_t>(row)];
+      widget->setItem(row, column, new NumberCell(ToQt(cells[static_cast<std::size_t>(column)])));
+    }
+  }
+  widget->verticalHeader()->hide();
+  widget->setSelectionBehavior(QAbstractItemView::SelectRows);
+  widget->setTabKeyNavigation(false);
+  widget->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+  widget->resizeColumnsToContents();
+  widget->horizontalHeader()->setStretchLastSection(true);
+  widget->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+  widget->setSortingEnabled(true);
+  auto* copy = new QShortcut(QKeySequence(QKeySequence::Copy), widget);
+  copy->setContext(Qt::WidgetWithChildrenShortcut);
+  QObject::connect(copy, &QShortcut::activated, widget, [widget] { CopyRows(*widget); });
+  return widget;
+}
+
+TextTable ReadTextTable(const QTableWidget& widget)
+{
+  TextTable table;
+  for (int column = 0; column < widget.columnCount(); ++column) {
+    table.Headings.push_back(FromQt(widget.horizontalHeaderItem(column)->text()));
+  }
+  for (int row = 0; row < widget.rowCount(); ++row) {
+    table.Rows.push_back(ReadRow(widget, row));
+  }
+  return table;
+}
+
+QString TabSeparated(const TextTable& table)
+{
+  const auto join = [](const std::vector<std::string>& cells) {
+    QStringList list;
+    for (const std::string& cell : cells) {
+      list << ToQt(cell);
+    }
+    return list.join('\t') + '\n';
+  };
+  QString text = join(table.Headings);
+  for (const auto& row : table.Rows) {
+    text += join(row);
+  }
+  return text;
+}
+
+}  // namespace veln
