@@ -3,6 +3,7 @@
 #include "desktop/child_window.h"
 #include "toolkit/refusal.h"
 
+#include <QApplication>
 #include <QPrintDialog>
 #include <QPrinter>
 
@@ -14,6 +15,7 @@ Program::Program(Dialogs& dialogs, Clock clock, QSettings& settings)
     : ChoosePrinter([](QPrinter& printer, QWidget* parent) {
         return QPrintDialog(&printer, parent).exec() == QDialog::Accepted;
       }),
+      Quit([] { QApplication::exit(); }),  // quit() would ask the main window, which refuses to close
       dialogs_(dialogs),
       clock_(std::move(clock)),
       settings_(settings)
@@ -29,6 +31,16 @@ bool Program::Try(const std::function<void()>& action)
     dialogs_.Warn(refusal.Message());
     return false;
   }
+}
+
+void Program::EndProgram()
+{
+  for (const auto& [name, window] : std::map(windows_)) {
+    if (window) {
+      window->Unload();
+    }
+  }
+  Quit();
 }
 
 void Program::Changed()

@@ -31,6 +31,7 @@ class Program {
 
   SurveyState State;
   PrinterChooser ChoosePrinter;  ///< the platform's print dialog, unless replaced
+  std::function<void()> Quit;    ///< leaves the event loop, unless replaced
 
   Dialogs& Ask() { return dialogs_; }
   [[nodiscard]] const Clock& Now() const { return clock_; }
@@ -42,6 +43,9 @@ class Program {
 
   /// Runs an action of a window. A refusal is shown here, the one place where it is; false then.
   bool Try(const std::function<void()>& action);
+
+  /// Ends the program at once, all windows with it and without a question.
+  void EndProgram();
 
   /// Tells all windows that the record has changed. Windows whose menu entry is closed by now are unloaded.
   void Changed();
