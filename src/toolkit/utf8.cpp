@@ -55,4 +55,26 @@ bool IsUtf8(std::string_view text)
   return true;
 }
 
+void AppendUtf8(std::string& text, char32_t code)
+{
+  constexpr char32_t TailBits = 6;
+  const auto put = [&text](char32_t byte) { text += static_cast<char>(byte); };
+  const auto putTail = [put, code](char32_t shift) { put(0x80U | ((code >> shift) & 0x3FU)); };
+  if (code < 0x80) {
+    put(code);
+  } else if (code < 0x800) {
+    put(0xC0U | (code >> TailBits));
+    putTail(0);
+  } else if (code < 0x10000) {
+    put(0xE0U | (code >> 2 * TailBits));
+    putTail(TailBits);
+    putTail(0);
+  } else {
+    put(0xF0U | (code >> 3 * TailBits));
+    putTail(2 * TailBits);
+    putTail(TailBits);
+    putTail(0);
+  }
+}
+
 }  // namespace veln

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <cstddef>
+#include <string>
 #include <string_view>
 
 namespace veln {
@@ -10,5 +11,8 @@ std::size_t CharacterCount(std::string_view text);
 
 /// Whether the text is well-formed UTF-8 (no overlong forms, no surrogates, nothing above U+10FFFF).
 bool IsUtf8(std::string_view text);
+
+/// Appends one Unicode character, which is no surrogate and at most U+10FFFF.
+void AppendUtf8(std::string& text, char32_t code);
 
 }  // namespace veln
