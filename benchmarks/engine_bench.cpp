@@ -12,6 +12,8 @@
 #include "toolkit/clock.h"
 #include "toolkit/dialogs.h"
 #include "toolkit/file_store.h"
+#include "toolkit/number_text.h"
+#include "toolkit/rounded_number.h"
 #include "workspace/project.h"
 
 #include <benchmark/benchmark.h>
@@ -119,5 +121,28 @@ void ComposeExport(benchmark::State& run)
   }
 }
 BENCHMARK(ComposeExport)->Unit(benchmark::kMillisecond);
+
+/// A column of the export by the plain rule, and by the quick one that stands in for it.
+void RoundNumbersPlainly(benchmark::State& run)
+{
+  const SurveyState state = DecorrelatedSurvey();
+  for ([[maybe_unused]] auto _ : run) {
+    for (const double z : state.Decorr1) {
+      benchmark::DoNotOptimize(NumberToString(RoundByFormat(z, "0.00###")));
+    }
+  }
+}
+BENCHMARK(RoundNumbersPlainly)->Unit(benchmark::kMillisecond);
+
+void RoundNumbersQuickly(benchmark::State& run)
+{
+  const SurveyState state = DecorrelatedSurvey();
+  for ([[maybe_unused]] auto _ : run) {
+    for (const double z : state.Decorr1) {
+      benchmark::DoNotOptimize(RoundedNumber(z, "0.00###"));
+    }
+  }
+}
+BENCHMARK(RoundNumbersQuickly)->Unit(benchmark::kMillisecond);
 
 }  // namespace

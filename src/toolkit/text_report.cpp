@@ -1,6 +1,7 @@
 #include "toolkit/text_report.h"
 
 #include "toolkit/number_text.h"
+#include "toolkit/rounded_number.h"
 #include "toolkit/utf8.h"
 
 namespace veln {
@@ -34,7 +35,7 @@ TextReport& TextReport::Number(double value)
 
 TextReport& TextReport::Number(double value, std::string_view pattern)
 {
-  return Number(RoundByFormat(value, pattern));
+  return Text(RoundedNumber(value, pattern)).Text(" ");
 }
 
 TextReport& TextReport::EndLine()
