@@ -10,6 +10,15 @@ namespace {
 
 constexpr const char* CaptionProperty = "valueCaption";
 
+void InitValueLabel(QLabel& label, const char* name, const QString& caption)
+{
+  label.setObjectName(name);
+  label.setTextFormat(Qt::PlainText);
+  label.setTextInteractionFlags(Qt::TextSelectableByMouse);
+  label.setProperty(CaptionProperty, caption);
+  label.setAccessibleName(caption);
+}
+
 }  // namespace
 
 QString ToQt(const std::string& text)
@@ -59,11 +68,7 @@ QLabel* MakeFieldLabel(QWidget* parent, const char* name, const QString& caption
 QLabel* MakeValueLabel(QWidget* parent, const char* name, const QString& caption)
 {
   auto* label = new QLabel(parent);
-  label->setObjectName(name);
-  label->setTextFormat(Qt::PlainText);
-  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
-  label->setProperty(CaptionProperty, caption);
-  label->setAccessibleName(caption);
+  InitValueLabel(*label, name, caption);
   return label;
 }
 
@@ -108,6 +113,14 @@ void ElidedLabel::paintEvent(QPaintEvent* /*event*/)
   QPainter painter(this);
   painter.setPen(palette().color(foregroundRole()));
   painter.drawText(contentsRect(), static_cast<int>(alignment()), shown);
+}
+
+ElidedLabel* MakeElidedLabel(QWidget* parent, const char* name, const QString& caption)
+{
+  auto* label = new ElidedLabel(parent);
+  InitValueLabel(*label, name, caption);
+  label->setTextInteractionFlags(Qt::NoTextInteraction);  // what is painted is not the whole text
+  return label;
 }
 
 }  // namespace veln

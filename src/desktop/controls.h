@@ -51,4 +51,7 @@ class ElidedLabel : public QLabel {
   void paintEvent(QPaintEvent* event) override;
 };
 
+/// A value label for long texts.
+ElidedLabel* MakeElidedLabel(QWidget* parent, const char* name, const QString& caption);
+
 }  // namespace veln

@@ -1,6 +1,11 @@
 #pragma once
 
 #include "desktop/child_window.h"
+#include "survey/survey_export.h"
+
+class QGroupBox;
+class QLabel;
+class QTimer;
 
 namespace veln {
 
@@ -10,6 +15,18 @@ class frmOutFD : public ChildWindow {
   static constexpr const char* Name = "frmOutFD";
 
   frmOutFD(Program& program, QWidget* parent);
+
+ private:
+  QGroupBox* MakeConfirmation();
+  void Tick();
+  void Export();
+  void LblUpdate(int site);
+
+  ExportTimer timer_;
+  QTimer* timer1_;
+  QLabel* label1_;
+  QLabel* label2_;
+  QGroupBox* confirmation_;
 };
 
 }  // namespace veln

@@ -1,6 +1,9 @@
 #pragma once
 
 #include "desktop/child_window.h"
+#include "workspace/help_document.h"
+
+class QTextBrowser;
 
 namespace veln {
 
@@ -10,6 +13,15 @@ class frmHelp : public ChildWindow {
   static constexpr const char* Name = "frmHelp";
 
   frmHelp(Program& program, QWidget* parent);
+
+  /// Puts a document in the place of the one that is shown.
+  void ShowDocument(const HelpDocument& document);
+
+ private:
+  void Print();
+
+  QTextBrowser* text_;
+  std::string content_;  ///< what is shown, byte for byte
 };
 
 }  // namespace veln

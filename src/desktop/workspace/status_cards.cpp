@@ -1,0 +1,280 @@
+#include "desktop/workspace/status_cards.h"
+
+#include "desktop/controls.h"
+#include "workspace/survey_state.h"
+
+#include <QGridLayout>
+#include <QGroupBox>
+#include <QLabel>
+#include <QVBoxLayout>
+
+#include <array>
+
+namespace veln {
+
+namespace {
+
+struct NamedText {
+  const char* Name;
+  const char* Text;
+};
+
+QGroupBox* MakeCard(QWidget* parent, const char* name, const QString& caption)
+{
+  auto* card = new QGroupBox(caption, parent);
+  card->setObjectName(name);
+  auto* grid = new QGridLayout(card);
+  grid->setHorizontalSpacing(LargeGap);
+  grid->setVerticalSpacing(SmallGap / 2);
+  card->hide();
+  return card;
+}
+
+QGridLayout& GridOf(QGroupBox& card)
+{
+  return dynamic_cast<QGridLayout&>(*card.layout());
+}
+
+QLabel* AddText(QGroupBox& card, const char* name, const char* text, int row, int column,
+                Qt::Alignment side = Qt::AlignLeft)
+{
+  QLabel* label = MakeText(&card, name, text);
+  label->setWordWrap(false);
+  label->setAlignment(side | Qt::AlignVCenter);
+  GridOf(card).addWidget(label, row, column);
+  return label;
+}
+
+QLabel* AddValue(QGroupBox& card, const char* name, const QString& caption, int row, int column,
+                 Qt::Alignment side = Qt::AlignLeft)
+{
+  QLabel* label = MakeValueLabel(&card, name, caption);
+  label->setAlignment(side | Qt::AlignVCenter);
+  GridOf(card).addWidget(label, row, column);
+  return label;
+}
+
+/// A caption and the value behind it.
+void AddPair(QGroupBox& card, NamedText caption, const char* value, int row, int column)
+{
+  AddText(card, caption.Name, caption.Text, row, column);
+  AddValue(card, value, QString(caption.Text).chopped(1), row, column + 1);
+}
+
+/// A pair whose value may be long: it is cut in the middle where the room is short.
+void AddLongPair(QGroupBox& card, NamedText caption, const char* value, int row)
+{
+  constexpr int Columns = 3;
+  AddText(card, caption.Name, caption.Text, row, 0);
+  ElidedLabel* label = MakeElidedLabel(&card, value, QString(caption.Text).chopped(1));
+  GridOf(card).addWidget(label, row, 1, 1, Columns);
+}
+
+void Show(const QGroupBox& card, const char* name, const std::string& value)
+{
+  ShowValue(*card.findChild<QLabel*>(name), ToQt(value));
+}
+
+void SetShown(const QGroupBox& card, std::initializer_list<const char*> names, bool shown)
+{
+  for (const char* name : names) {
+    card.findChild<QLabel*>(name)->setVisible(shown);
+  }
+}
+
+QGroupBox* MakeProjectCard(QWidget* parent)
+{
+  QGroupBox* card = MakeCard(parent, "PSFrame", "Project Status Window");
+  AddLongPair(*card, {"LblFDCaption", "Project Description:"}, "LblFD", 0);
+  AddPair(*card, {"LblPSCaption", "Project Subdirectory:"}, "LblPS", 1, 0);
+  AddPair(*card, {"LblIDCaption", "Field ID Code:"}, "LblID", 1, 2);
+  AddLongPair(*card, {"LblIFCaption", "Import Filename:"}, "LblIF", 2);
+  AddPair(*card, {"LblFTCaption", "Survey Type:"}, "LblFT", 3, 0);
+  AddPair(*card, {"LblSSCaption", "# of Survey Sites:"}, "LblSS", 3, 2);
+  AddPair(*card, {"LblSCCaption", "# of Signal Columns:"}, "LblSC", 4, 0);
+  AddPair(*card, {"LblSTCaption", "Signal Transformation:"}, "LblST", 4, 2);
+  GridOf(*card).setColumnStretch(1, 1);
+  GridOf(*card).setColumnStretch(3, 1);
+  return card;
+}
+
+void MirrorProject(QGroupBox& card, const SurveyState& state)
+{
+  Show(card, "LblFD", state.FieldDescription);
+  Show(card, "LblPS", state.ProjectName);
+  Show(card, "LblID", state.FieldId);
+  Show(card, "LblIF", state.ImportFileName);
+  Show(card, "LblFT", state.SurveyType);
+  Show(card, "LblSS", state.LblSS);
+  Show(card, "LblSC", state.LblSC);
+  Show(card, "LblST", state.SignalTransformText);
+  SetShown(card,
+           {"LblIFCaption", "LblIF", "LblFTCaption", "LblFT", "LblSSCaption", "LblSS", "LblSCCaption",
+            "LblSC", "LblSTCaption", "LblST"},
+           state.SurveySize > 0);
+}
+
+QGroupBox* MakeSignalCard(QWidget* parent)
+{
+  constexpr std::array<NamedText, 5> Columns = {
+      {{"LblSz", "N"}, {"LblMu", "Mean"}, {"LblStd", "Std"}, {"LblMn", "Min"}, {"LblMx", "Max"}}};
+  QGroupBox* card = MakeCard(parent, "BSSFrame", "Signal Statistics");
+  for (int row = 1; row <= 2; ++row) {
+    const std::string number = std::to_string(row);
+    AddValue(*card, ("LblNm" + number).c_str(), "Signal " + ToQt(number), row, 0);
+    int column = 1;
+    for (const NamedText& heading : Columns) {
+      AddValue(*card, (heading.Name + number).c_str(), heading.Text, row, column++, Qt::AlignRight);
+    }
+  }
+  int column = 1;
+  for (const NamedText& heading : Columns) {
+    AddText(*card, (std::string(heading.Name) + "Heading").c_str(), heading.Text, 0, column, Qt::AlignRight);
+    GridOf(*card).setColumnStretch(column++, 1);
+  }
+  AddText(*card, "Label13", "Corr", 0, column, Qt::AlignRight);
+  AddValue(*card, "LblCorr", "Corr", 1, column, Qt::AlignRight);
+  GridOf(*card).setColumnStretch(column, 1);
+  return card;
+}
+
+void MirrorSignals(QGroupBox& card, const SignalPanel& panel)
+{
+  int number = 1;
+  for (const SignalRow& row : panel.Rows) {
+    const std::string suffix = std::to_string(number++);
+    Show(card, ("LblNm" + suffix).c_str(), row.LblNm);
+    Show(card, ("LblSz" + suffix).c_str(), row.LblSz);
+    Show(card, ("LblMu" + suffix).c_str(), row.LblMu);
+    Show(card, ("LblStd" + suffix).c_str(), row.LblStd);
+    Show(card, ("LblMn" + suffix).c_str(), row.LblMn);
+    Show(card, ("LblMx" + suffix).c_str(), row.LblMx);
+  }
+  Show(card, "LblCorr", panel.LblCorr);
+  SetShown(card, {"Label13", "LblCorr", "LblNm2", "LblSz2", "LblMu2", "LblStd2", "LblMn2", "LblMx2"},
+           panel.CorrVisible);
+}
+
+QGroupBox* MakeDecorrelationCard(QWidget* parent)
+{
+  constexpr int Sideways = 4;  // the two counts of the iterations stand beside the table
+  QGroupBox* card = MakeCard(parent, "DCFrame", "Decorrelation Statistics");
+  AddText(*card, "LblLevelHeading", "Level", 0, 1, Qt::AlignRight);
+  AddText(*card, "LblCountHeading", "# Sites >", 0, 2, Qt::AlignRight);
+  AddText(*card, "LblmstdCaption", "Masking STD:", 1, 0);
+  AddValue(*card, "Lblmstd", "Masking STD", 1, 1, Qt::AlignRight);
+  AddValue(*card, "Lblmstdcnt", "Masking STD, # Sites >", 1, 2, Qt::AlignRight);
+  AddText(*card, "LblostdCaption", "Outlier STD:", 2, 0);
+  AddValue(*card, "Lblostd", "Outlier STD", 2, 1, Qt::AlignRight);
+  AddValue(*card, "Lblostdcnt", "Outlier STD, # Sites >", 2, 2, Qt::AlignRight);
+  AddPair(*card, {"LblDcntCaption", "Number of Previously Deleted Sites:"}, "LblDcnt", 1, Sideways);
+  AddPair(*card, {"LblVcntCaption", "Number of Validation Iterations:"}, "LblVcnt", 2, Sideways);
+  GridOf(*card).setColumnStretch(Sideways - 1, 1);
+  return card;
+}
+
+void MirrorDecorrelation(QGroupBox& card, const DecorrelationPanel& panel)
+{
+  Show(card, "Lblmstd", panel.Lblmstd);
+  Show(card, "Lblmstdcnt", panel.Lblmstdcnt);
+  Show(card, "Lblostd", panel.Lblostd);
+  Show(card, "Lblostdcnt", panel.Lblostdcnt);
+  Show(card, "LblDcnt", panel.LblDcnt);
+  Show(card, "LblVcnt", panel.LblVcnt);
+}
+
+QGroupBox* MakeAlgorithmCard(QWidget* parent)
+{
+  QGroupBox* card = MakeCard(parent, "TFrame", "EB / TA  Algorithms");
+  AddPair(*card, {"LblEBCaption", "Edge Buffering:"}, "LblEB", 0, 0);
+  AddPair(*card, {"Label21Caption", "Transition Analysis:"}, "Label21", 0, 2);
+  GridOf(*card).setColumnStretch(1, 1);
+  GridOf(*card).setColumnStretch(3, 1);
+  return card;
+}
+
+constexpr int FirstDesignLabel = 27;  // `Label27` to `Label31`
+
+std::string DesignLabel(int design)
+{
+  return "Label" + std::to_string(FirstDesignLabel + design - 1);
+}
+
+QGroupBox* MakeDesignCard(QWidget* parent)
+{
+  constexpr int Sideways = 4;
+  QGroupBox* card = MakeCard(parent, "SDFrame", "Sample Site Designs");
+  AddText(*card, "LblDesignHeading", "Dsgn #", 0, 0);
+  AddText(*card, "LblSizeHeading", "# of SS", 0, 1, Qt::AlignRight);
+  AddText(*card, "LblCriterionHeading", "OptCri", 0, 2, Qt::AlignRight);
+  for (int design = 1; design <= MaxDesigns; ++design) {
+    const std::string number = std::to_string(design);
+    AddText(*card, DesignLabel(design).c_str(), number.c_str(), design, 0);
+    AddValue(*card, ("Lblss" + number + "n").c_str(), "Design " + ToQt(number) + " # of SS", design, 1,
+             Qt::AlignRight);
+    AddValue(*card, ("Lblssoc" + number).c_str(), "Design " + ToQt(number) + " OptCri", design, 2,
+             Qt::AlignRight);
+  }
+  AddText(*card, "Lblssmdc", "Manual Dsgn Created", 0, Sideways);
+  AddPair(*card, {"Lblssmd", "# of SS in MD:"}, "Lblssmdn", 1, Sideways);
+  GridOf(*card).setColumnStretch(Sideways - 1, 1);
+  return card;
+}
+
+void MirrorDesigns(QGroupBox& card, const DesignPanel& panel)
+{
+  int design = 1;
+  for (const DesignRow& row : panel.Rows) {
+    const std::string number = std::to_string(design);
+    const std::string size = "Lblss" + number + "n";
+    const std::string criterion = "Lblssoc" + number;
+    Show(card, size.c_str(), row.Lblssn);
+    Show(card, criterion.c_str(), row.Lblssoc);
+    SetShown(card, {DesignLabel(design).c_str(), size.c_str(), criterion.c_str()}, !row.Lblssn.empty());
+    ++design;
+  }
+  Show(card, "Lblssmdn", panel.Lblssmdn);
+  SetShown(card, {"Lblssmdc", "Lblssmd", "Lblssmdn"}, !panel.Lblssmdn.empty());
+}
+
+}  // namespace
+
+StatusCards::StatusCards(QWidget* parent)
+    : QWidget(parent),
+      project_(MakeProjectCard(this)),
+      signals_(MakeSignalCard(this)),
+      decorrelation_(MakeDecorrelationCard(this)),
+      algorithms_(MakeAlgorithmCard(this)),
+      designs_(MakeDesignCard(this))
+{
+  auto* column = new QVBoxLayout(this);
+  column->setContentsMargins(0, 0, 0, 0);
+  column->setSpacing(LargeGap);
+  for (QGroupBox* card : {project_, signals_, decorrelation_, algorithms_, designs_}) {
+    column->addWidget(card);
+  }
+}
+
+QWidget* StatusCards::Mirror(const SurveyState& state)
+{
+  MirrorProject(*project_, state);
+  MirrorSignals(*signals_, state.Signals);
+  MirrorDecorrelation(*decorrelation_, state.Decorrelation);
+  Show(*algorithms_, "LblEB", state.Algorithms.LblEB);
+  Show(*algorithms_, "Label21", state.Algorithms.Label21);
+  MirrorDesigns(*designs_, state.Designs);
+
+  QWidget* fresh = nullptr;
+  const auto reveal = [&fresh](QGroupBox* card, bool visible) {
+    fresh = visible && card->isHidden() ? card : fresh;
+    card->setVisible(visible);
+  };
+  reveal(project_, state.ProjectShown);
+  reveal(signals_, state.Signals.Visible);
+  reveal(decorrelation_, state.Decorrelation.Visible);
+  reveal(algorithms_, state.Algorithms.Visible);
+  reveal(designs_, state.Designs.Visible);
+  return fresh;
+}
+
+}  // namespace veln
