@@ -126,10 +126,13 @@ void ProgressText::FileList(const std::vector<std::filesystem::path>& files)
     return;
   }
   ClearCounter();
-  bool first = true;
+  std::filesystem::path folder;
   for (const auto& file : files) {
-    *out_ << PadRight(first ? "Files" : "", NameWidth) << file.string() << "\n";
-    first = false;
+    if (file.parent_path() != folder) {
+      folder = file.parent_path();
+      *out_ << PadRight("Files", NameWidth) << "in " << folder.string() << "\n";
+    }
+    *out_ << PadRight("", NameWidth) << file.filename().string() << "\n";
   }
 }
 

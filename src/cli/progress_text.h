@@ -25,6 +25,7 @@ class ProgressText {
   void DesignTable(const SavedDesign& design);
   /// The scores of an automatic selection: the best one marked with "*", acceptable ones with "+".
   void ScoreTable(const SelectionScores& scores);
+  /// The files written, under the folder that holds them.
   void FileList(const std::vector<std::filesystem::path>& files);
 
  private:
