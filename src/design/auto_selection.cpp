@@ -152,9 +152,10 @@ std::optional<SelectionScores> SelectDesigns(SrsForm& form, SurveyState& state, 
     }
     MoveDFactor(form, DFactorOf(combination.FactorIndex));
     SetParseValues(form, strata, combination.Stratum - 1);
+    const auto score = ScoreCombination(form, state, dialogs, observer);
     scores.optval.at(static_cast<std::size_t>(combination.Stratum) - 1)
-        .at(static_cast<std::size_t>(combination.FactorIndex) - 1) =
-        ScoreCombination(form, state, dialogs, observer);
+        .at(static_cast<std::size_t>(combination.FactorIndex) - 1) = score;
+    observer.DesignScored(score);
   }
   EndSelection(form, state, dialogs);
   return scores;

@@ -2,6 +2,7 @@
 
 #include "design/target_sites.h"
 
+#include <optional>
 #include <span>
 #include <string>
 
@@ -30,6 +31,8 @@ class RunObserver {
   virtual void SupportFound(const CandidateSite& /*site*/) {}
   /// Automatic selection is about to make design k of n. False stops it there.
   virtual bool NextDesign(int /*k*/, int /*n*/) { return true; }
+  /// The design that automatic selection has just made has this score; none if it could not be made.
+  virtual void DesignScored(std::optional<double> /*score*/) {}
 };
 
 }  // namespace veln

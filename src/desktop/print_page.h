@@ -1,7 +1,7 @@
 #pragma once
 
 #include "desktop/program.h"
-#include "signal/outlier_list.h"
+#include "toolkit/text_table.h"
 
 #include <QString>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "signal/outlier_list.h"
+#include "toolkit/text_table.h"
 
 #include <QString>
 
