@@ -1,9 +1,7 @@
 #pragma once
 
+#include "toolkit/text_table.h"
 #include "workspace/survey_state.h"
-
-#include <string>
-#include <vector>
 
 namespace veln {
 
