@@ -1,0 +1,177 @@
+#pragma once
+
+#include "design/design_run.h"
+#include "design/srs_form.h"
+#include "support/surveys.h"
+#include "toolkit/number_text.h"
+#include "toolkit/refusal.h"
+
+#include <cstddef>
+#include <cstdint>
+#include <filesystem>
+#include <sstream>
+#include <string>
+#include <vector>
+
+namespace veln {
+
+/// A site of a field that a test lays out by hand.
+struct HandSite {
+  double X = 0;
+  double Y = 0;
+  double Z1 = 0;
+  double Z2 = 0;
+};
+
+/// An accepted grid survey of these sites, numbered from 101, all free.
+inline SurveyState HandField(const std::vector<HandSite>& sites, int signals = 1,
+                             const std::filesystem::path& programDir = "/nowhere")
+{
+  SurveyState state = NamedState(programDir);
+  state.SurveySize = static_cast<int>(sites.size());
+  state.SignalCount = signals;
+  state.SurveyType = "Grid";
+  state.LblSC = signals == 2 ? " 2" : " 1";
+  for (std::size_t i = 0; i < sites.size(); ++i) {
+    state.SiteId.push_back(static_cast<std::int16_t>(101 + i));
+    state.CoordX.push_back(sites[i].X);
+    state.CoordY.push_back(sites[i].Y);
+    state.Decorr1.push_back(sites[i].Z1);
+    if (signals == 2) {
+      state.Decorr2.push_back(sites[i].Z2);
+    }
+  }
+  state.SiteStatus.assign(sites.size(), site_status::Free);
+  state.DecorrDone = true;
+  state.Menu.Apply(WorkflowEvent::ConfigurationAccepted);
+  return state;
+}
+
+/// One signal along a line of 45 m, for which the ideal spacing of 5 sites is 45 / (5 - 0.5) = 10 m. The
+/// three sites of each target of the limited design stand together, the nearest at 0, 10, 20, 30 m, but for
+/// the centre: its nearest stands at 35 m and its third at 40 m, so that one exchange makes all distances 10
+/// m. The last two are near the centre.
+inline SurveyState LineField(const std::filesystem::path& programDir = "/nowhere")
+{
+  SurveyState state = HandField({{0, 0, 2.5},
+                                 {1, 0, 2.4},
+                                 {2, 0, 2.3},
+                                 {10, 0, -2.5},
+                                 {11, 0, -2.6},
+                                 {12, 0, -2.7},
+                                 {20, 0, 1.5},
+                                 {21, 0, 1.6},
+                                 {22, 0, 1.7},
+                                 {30, 0, -1.5},
+                                 {31, 0, -1.4},
+                                 {32, 0, -1.3},
+                                 {35, 0, 0},
+                                 {36, 0, 0.1},
+                                 {40, 0, -0.2},
+                                 {4, 0, 0.6},
+                                 {45, 0, 0.5}},
+                                1, programDir);
+  for (std::size_t i = 0; i < state.CoordX.size(); ++i) {
+    state.CoordX[i] += 100.5;
+    state.CoordY[i] = 7.25;
+  }
+  return state;
+}
+
+/// The settings of a limited design, otherwise as a window opens.
+inline DesignSettings LimitedDesign()
+{
+  DesignSettings settings;
+  settings.Size = DesignSize::Limited;
+  return settings;
+}
+
+inline std::string FixedClock()
+{
+  return "2026-11-22 14:05:09";
+}
+
+/// The message of the refusal that an action ends with; empty if it is not refused.
+template <class Action>
+std::string RefusalOf(Action action)
+{
+  try {
+    action();
+  } catch (const Refusal& refusal) {
+    return refusal.Message();
+  }
+  return {};
+}
+
+/// Keeps what a run tells as lines of text.
+class RunTranscript : public RunObserver {
+ public:
+  void Status(const std::string& text) override { Lines.push_back(text); }
+  void MapReady() override { Lines.emplace_back("map"); }
+  void CandidatesFound(int point, const PointCandidates& found) override
+  {
+    Lines.push_back("candidates of " + std::to_string(point) + Code(found[0]) + Code(found[1]) +
+                    Code(found[2]));
+  }
+  void Started(std::span<const PointCandidates> points) override
+  {
+    Lines.emplace_back("start");
+    for (const PointCandidates& point : points) {
+      Lines.back() += Code(point[0]);
+    }
+  }
+  void Exchanged(const CandidateSite& leaving, const CandidateSite& entering) override
+  {
+    Lines.push_back("exchange" + Code(leaving) + " for" + Code(entering));
+  }
+  void SupportFound(const CandidateSite& site) override { Lines.push_back("support" + Code(site)); }
+  bool NextDesign(int k, int n) override
+  {
+    Designs.push_back(std::to_string(k) + " of " + std::to_string(n));
+    return k != StopAt;
+  }
+
+  std::vector<std::string> Lines;
+  std::vector<std::string> Designs;
+  int StopAt = 0;
+
+ private:
+  static std::string Code(const CandidateSite& site) { return " " + std::to_string(site.SiteId); }
+};
+
+/// The sizes of the design window: the one selected with a star, those that are closed in brackets.
+inline std::string SizesOf(const SrsForm& form)
+{
+  std::string text;
+  for (const DesignSize size : {DesignSize::Limited, DesignSize::Standard, DesignSize::Full}) {
+    const std::string count = std::to_string(SampleSize(size, form.IncludeSupportSites));
+    text += text.empty() ? "" : " ";
+    text += form.OptionEnabled.at(static_cast<std::size_t>(size)) ? count : "(" + count + ")";
+    text += form.Size == size ? "*" : "";
+  }
+  return text;
+}
+
+/// The whole state of the design window as text.
+inline std::string Describe(const SrsForm& form)
+{
+  std::ostringstream text;
+  text << (form.Closed     ? "closed"
+           : form.Finished ? "finished"
+                           : "ready")
+       << "; sizes " << SizesOf(form) << "; D " << form.Check1 << ' ' << form.Text1() << "; TA "
+       << form.Check2 << form.Check2Enabled << "; parsing " << form.Check3 << form.Check3Enabled << ' '
+       << form.Parsing.ParseDenominator << '/' << form.Parsing.ParseModulus << "; support "
+       << form.IncludeSupportSites << "; reduce " << form.Reduction.mnuSRSReduce;
+  for (const bool step : form.Reduction.Steps) {
+    text << step;
+  }
+  text << form.Reduction.mnuSRSRecover << "; design " << form.LblDN << " of " << form.LblSS << " by"
+       << form.LblSC << "\n"
+       << form.LblMS << "\n"
+       << form.SurveySizeNote << "\n"
+       << form.Command3Caption << form.Command3ToolTip << form.OptCriteria << ' ' << form.LoopCount;
+  return text.str();
+}
+
+}  // namespace veln
