@@ -120,7 +120,8 @@ class Replacement {
   /// Renames the fresh file over its target; the older file, if there is one, is kept under a second name.
   void PutInPlace()
   {
-    if (fs::symlink_status(target_).type() == fs::file_type::regular) {
+    const fs::file_type older = fs::symlink_status(target_).type();
+    if (older == fs::file_type::regular || older == fs::file_type::symlink) {
       KeepOlder();
     }
     if (rename(fresh_.c_str(), target_.c_str()) != 0) {
@@ -150,7 +151,7 @@ class Replacement {
     std::error_code failure;
     fs::create_hard_link(target_, name, failure);
     if (failure) {  // a file system without hard links
-      fs::copy_file(target_, name, failure);
+      fs::copy(target_, name, fs::copy_options::copy_symlinks, failure);
     }
     if (failure) {
       Remove(name);
