@@ -1,0 +1,109 @@
+#include "workspace/project.h"
+
+#include "support/files.h"
+#include "support/refusals.h"
+#include "support/scripted_dialogs.h"
+#include "support/temporary_directory.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+
+namespace veln {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+TEST(Project, NamesHaveDigitsAsciiLettersUnderscoreAndPoint)
+{
+  for (const char* name : {"a", "Z9", "0", "_", "north_farm.2026", "...", ".hidden", "a."}) {
+    EXPECT_TRUE(IsProjectName(name)) << name;
+  }
+  for (const char* name : {"", ".", "..", "a b", "a/b", "a\\b", "a-b", "\u00FCbung", "a\n", "a:"}) {
+    EXPECT_FALSE(IsProjectName(name)) << name;
+  }
+}
+
+TEST(Project, FieldIdsAreFourDigitsOrAsciiLetters)
+{
+  for (const char* code : {"AB12", "zzzz", "0000", "aZ09"}) {
+    EXPECT_TRUE(IsFieldId(code)) << code;
+  }
+  for (const char* code :
+       {"", "AB1", "AB123", "AB_1", "AB.1", "AB 1", "\u00C4B1", "AB\u00C4", "@[`{", "/:12"}) {
+    EXPECT_FALSE(IsFieldId(code)) << code;
+  }
+}
+
+TEST(Project, OutputFilesAreNamedAfterProjectAndField)
+{
+  SurveyState state;
+  state.ProgramDir = "/veln";
+  state.ProjectName = "Farm";
+  state.FieldId = "aB12";
+  EXPECT_EQ(OutputPath(state, "rsd3.txt"), "/veln/data/Farm/aB12rsd3.txt");
+}
+
+TEST(Project, EveryDirectoryUnderDataIsAProject)
+{
+  const TemporaryDirectory folder;
+  for (const char* name : {"b", "a name as it stands", "C"}) {
+    fs::create_directories(folder / "data" / name / "deeper");
+  }
+  WriteText(folder / "data" / "a file.txt", "");
+  fs::create_directory_symlink(folder / "data" / "b", folder / "data" / "linked");
+  EXPECT_THAT(ListProjects(folder.Path()), ElementsAre("C", "a name as it stands", "b", "linked"));
+}
+
+TEST(Project, DataThatCannotBeListedIsToldInTheProgramsWords)
+{
+  const TemporaryDirectory folder;
+  const std::string warning = "Warning: The VELN-QTRD program can not locate the veln2\\data subdirectory!";
+  EXPECT_EQ(RefusalOf([&] { ListProjects(folder.Path()); }), warning);
+  WriteText(folder / "data", "a file in its place");
+  EXPECT_EQ(RefusalOf([&] { ListProjects(folder.Path()); }), warning);
+}
+
+TEST(Project, OnlyTheInformationFileMakesAFieldIdBeInUse)
+{
+  const TemporaryDirectory folder;
+  WriteText(folder / "data/Farm/AB12tstd.std", "");
+  WriteText(folder / "data/Other/AB12info.txt", "");
+  ScriptedDialogs dialogs;
+  EXPECT_TRUE(CheckAlphaCode(folder.Path(), "Farm", "AB12", dialogs));
+  EXPECT_THAT(dialogs.Said, IsEmpty());
+}
+
+TEST(Project, AFieldIdInUseIsAskedFor)
+{
+  const TemporaryDirectory folder;
+  WriteText(folder / "data/Farm/AB12info.txt", "");
+  const std::string question =
+      "ask: Warning!  The 4-character Field ID code you have specified is already in use\n"
+      "in the current data Project.  If you keep this code, you will automatically\n"
+      "overwrite one or more existing VELN-QTRD output data and/or text files.\n\n"
+      "Are you sure that you want to still use this code and overwrite these files?";
+  ScriptedDialogs keep({true});
+  EXPECT_TRUE(CheckAlphaCode(folder.Path(), "Farm", "AB12", keep));
+  EXPECT_THAT(keep.Said, ElementsAre("beep", question));
+  ScriptedDialogs change({false});
+  EXPECT_FALSE(CheckAlphaCode(folder.Path(), "Farm", "AB12", change));
+  EXPECT_THAT(change.Said,
+              ElementsAre("beep", question, "beep", "inform: Please enter a new Field ID code now."));
+}
+
+TEST(Project, IsSetAsOftenAsWantedUntilASurveyIsImported)
+{
+  SurveyState state;
+  AcceptProject(state, "Farm", "AB12", "North field");
+  AcceptProject(state, "Hill", "CD34", "South field");
+  EXPECT_EQ(state.ProjectName + state.FieldId + state.FieldDescription, "HillCD34South field");
+  EXPECT_TRUE(state.ProjectShown);
+  EXPECT_TRUE(state.Menu.IsEnabled(MenuEntry::mnuImport));
+  state.Menu.Apply(WorkflowEvent::SurveyImported);
+  EXPECT_NE(WholeRefusalOf(state, [&] { AcceptProject(state, "Farm", "AB12", ""); }), "not refused");
+}
+
+}  // namespace veln

@@ -1,0 +1,192 @@
+#include "workspace/settings.h"
+
+#include "support/files.h"
+#include "support/scripted_dialogs.h"
+#include "support/temporary_directory.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <string>
+
+namespace veln {
+
+namespace fs = std::filesystem;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+
+namespace {
+
+constexpr const char* ReadWarning = "warn: Warning! TE_FIO read error! Standard default settings employed...";
+constexpr const char* SavedNote = "inform: Your new VELN start-up information has been updated and saved.";
+
+/// The six lines, each ended by `end`.
+std::string Settings(const std::string& editor, const std::string& inputPath, const std::string& factor,
+                     const std::string& end = "\r\n")
+{
+  return "VELN default Text Editor information:" + end + editor + end +
+         "VELN default raw survey Input File path information:" + end + inputPath + end +
+         "Default printer DPI: (1=300, 2=600, 4=1200 dpi)" + end + factor + end;
+}
+
+class SettingsTest : public testing::Test {
+ protected:
+  SettingsTest() { State.ProgramDir = folder_.Path(); }
+
+  [[nodiscard]] fs::path File() const { return folder_ / "VELN_te_fio_info.dat"; }
+  [[nodiscard]] std::vector<std::string> FilesThere() const { return ListFiles(folder_.Path()); }
+
+  /// The three settings as read from a file of this content: "editor|input path|factor".
+  std::string Read(const std::string& content)
+  {
+    WriteText(File(), content);
+    Dialogs.Said.clear();
+    return ReadAgain();
+  }
+
+  std::string ReadAgain()
+  {
+    State.TextEditorPath = State.InputFilePath = "left over";
+    State.PrinterDpiFactor = -1;
+    ReadTEandFIOinfo(State, Dialogs);
+    return Shown();
+  }
+
+  [[nodiscard]] std::string Shown() const
+  {
+    return State.TextEditorPath + "|" + State.InputFilePath + "|" + std::to_string(State.PrinterDpiFactor);
+  }
+
+  [[nodiscard]] std::string Defaults() const { return "xdg-open |" + folder_.Path().string() + "|2.000000"; }
+
+  SurveyState State;
+  ScriptedDialogs Dialogs;
+
+ private:
+  TemporaryDirectory folder_;
+};
+
+}  // namespace
+
+TEST_F(SettingsTest, SixLinesAreWritten)
+{
+  State.TextEditorPath = " /usr/bin/my editor";
+  State.InputFilePath = "/surveys/\u00C4cker";
+  State.PrinterDpiFactor = 4;
+  SaveTEandFIOinfo(State, Dialogs);
+  EXPECT_EQ(ReadText(File()),
+            "VELN default Text Editor information:\r\n"
+            " /usr/bin/my editor\r\n"
+            "VELN default raw survey Input File path information:\r\n"
+            "/surveys/\u00C4cker\r\n"
+            "Default printer DPI: (1=300, 2=600, 4=1200 dpi)\r\n"
+            "4\r\n");
+  EXPECT_THAT(Dialogs.Said, ElementsAre(SavedNote));
+}
+
+TEST_F(SettingsTest, SavedAndReadAgainTheyStayByteForByte)
+{
+  const std::string content = Settings(" /usr/bin/my editor", "/surveys/\u00C4cker \u6C34", "1");
+  for (int round = 0; round < 3; ++round) {
+    ASSERT_EQ(round == 0 ? Read(content) : ReadAgain(),
+              " /usr/bin/my editor|/surveys/\u00C4cker \u6C34|1.000000");
+    SaveTEandFIOinfo(State, Dialogs);
+    ASSERT_EQ(ReadText(File()), content);
+  }
+  EXPECT_THAT(Dialogs.Said, ElementsAre(SavedNote, SavedNote, SavedNote));
+}
+
+TEST_F(SettingsTest, AllLineEndsAndMissingLastOnesAreRead)
+{
+  for (const char* end : {"\r\n", "\n", "\r"}) {
+    const std::string content = Settings("    gedit --wait ", "  /raw", " 2 ", end);
+    EXPECT_EQ(Read(content), " gedit --wait |/raw|2.000000");
+    EXPECT_EQ(Read(content.substr(0, content.size() - std::string(end).size())),
+              " gedit --wait |/raw|2.000000");
+    EXPECT_THAT(Dialogs.Said, IsEmpty());
+  }
+}
+
+TEST_F(SettingsTest, APathIsCutAtItsComma)
+{
+  EXPECT_EQ(Read(Settings(" /opt/a,b/edit", "/raw, old/2026,x", "4, or so")), " /opt/a|/raw|4.000000");
+  EXPECT_THAT(Dialogs.Said, IsEmpty());
+}
+
+TEST_F(SettingsTest, AHalfWrittenFileGivesAllThreeDefaultsOverWhatWasRead)
+{
+  const std::string whole = Settings(" gedit", "/raw", "4");
+  for (std::size_t length = 0; length <= whole.size(); ++length) {
+    const bool hasFactor = length + 2 >= whole.size();
+    ASSERT_EQ(Read(whole.substr(0, length)), hasFactor ? " gedit|/raw|4.000000" : Defaults()) << length;
+    ASSERT_EQ(Dialogs.Said.size(), hasFactor ? 0U : 1U) << length;
+  }
+}
+
+TEST_F(SettingsTest, ADamagedFactorGivesTheDefaults)
+{
+  for (const char* factor : {"", "two", "4 2", "1E999", "\xFF", "0x2"}) {
+    EXPECT_EQ(Read(Settings(" gedit", "/raw", factor)), Defaults()) << factor;
+    EXPECT_THAT(Dialogs.Said, ElementsAre(ReadWarning));
+  }
+}
+
+TEST_F(SettingsTest, AMissingFileWarnsAndIsNotMade)
+{
+  EXPECT_EQ(ReadAgain(), Defaults());
+  EXPECT_THAT(Dialogs.Said, ElementsAre(ReadWarning));
+  EXPECT_THAT(FilesThere(), IsEmpty());
+}
+
+TEST_F(SettingsTest, AFailedWriteBeepsAndKeepsTheValuesOfThisRun)
+{
+  fs::create_directory(File());
+  State.TextEditorPath = " gedit";
+  const SurveyState before = State;
+  SaveTEandFIOinfo(State, Dialogs);
+  EXPECT_THAT(Dialogs.Said, ElementsAre("beep", HasSubstr("Is a directory")));
+  EXPECT_TRUE(State == before);
+  EXPECT_THAT(FilesThere(), ElementsAre("VELN_te_fio_info.dat/"));
+}
+
+TEST_F(SettingsTest, CancelBringsBackWhatTheWindowFound)
+{
+  Read(Settings(" gedit", "/raw", "4"));
+  const SurveyState before = State;
+  FileIoForm form = LoadFileIoForm(State);
+  EXPECT_EQ(form.TxtEditor, " gedit");
+  EXPECT_EQ(form.SelectedFactor, 4);
+
+  BrowseTextEditor(form, State, "/usr/bin/my editor");
+  ChoosePrinterDpi(form, State, 1);
+  State.InputFilePath = "/elsewhere";
+  EXPECT_EQ(Shown(), " /usr/bin/my editor|/elsewhere|1.000000");
+  EXPECT_EQ(form.TxtEditor, " /usr/bin/my editor");
+  BrowseTextEditor(form, State, std::nullopt);
+  EXPECT_EQ(form.TxtEditor, " gedit");
+
+  RestoreSettings(form, State, Dialogs);
+  EXPECT_TRUE(State == before);
+  EXPECT_THAT(Dialogs.Said,
+              ElementsAre("inform: The previous default Text Editor and Input file path information "
+                          "has been restored."));
+  EXPECT_EQ(ReadText(File()), Settings(" gedit", "/raw", "4"));
+}
+
+TEST_F(SettingsTest, OnlyTheThreeResolutionsSelectAnOption)
+{
+  struct Case {
+    double Factor;
+    int Selected;
+  };
+  for (const auto& [factor, selected] :
+       {Case{1, 1}, Case{2, 2}, Case{4, 4}, Case{2.5, 2}, Case{3.5, 4}, Case{0.5, 0}, Case{3, 0}, Case{-1, 0},
+        Case{40000, 0}, Case{65537, 0}}) {
+    State.PrinterDpiFactor = factor;
+    EXPECT_EQ(LoadFileIoForm(State).SelectedFactor, selected) << factor;
+  }
+}
+
+}  // namespace veln

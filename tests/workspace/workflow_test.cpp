@@ -1,0 +1,97 @@
+#include "workspace/workflow.h"
+
+#include "support/refusals.h"
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <string>
+#include <utility>
+
+namespace veln {
+
+namespace {
+
+using enum MenuEntry;
+using enum WorkflowEvent;
+
+/// The open entries, in the order of the menu.
+std::string Open(const Workflow& menu)
+{
+  constexpr std::array<std::pair<MenuEntry, const char*>, MenuEntryCount> Names = {{
+      {mnuProject, "Project"},
+      {mnuImport, "Import"},
+      {mnuVPOF, "VPOF"},
+      {mnuSG, "SG"},
+      {mnuStats, "Stats"},
+      {mnuSigD, "SigD"},
+      {mnuSigV, "SigV"},
+      {mnuSRS, "SRS"},
+      {mnuMask, "Mask"},
+      {mnuSHowMap, "SHowMap"},
+  }};
+  std::string text;
+  for (const auto& [entry, name] : Names) {
+    text += menu.IsEnabled(entry) ? (text.empty() ? "" : " ") + std::string(name) : "";
+  }
+  return text;
+}
+
+std::string OpenAfter(std::initializer_list<WorkflowEvent> events)
+{
+  Workflow menu;
+  for (const WorkflowEvent event : events) {
+    menu.Apply(event);
+  }
+  return Open(menu);
+}
+
+}  // namespace
+
+TEST(Workflow, EachStepOpensTheNext)
+{
+  Workflow menu;
+  EXPECT_EQ(Open(menu), "Project");
+  const auto after = [&menu](WorkflowEvent event) {
+    menu.Apply(event);
+    return Open(menu);
+  };
+  EXPECT_EQ(after(ProjectAccepted), "Project Import");
+  EXPECT_EQ(after(ProjectAccepted), "Project Import");  // may be repeated until a survey is imported
+  EXPECT_EQ(after(SurveyImported), "SG Stats SigD");
+  EXPECT_EQ(after(SignalsDecorrelated), "SG SigD SigV");
+  EXPECT_EQ(after(SignalsDecorrelated), "SG SigD SigV");  // again, behind a deletion
+  EXPECT_EQ(after(ConfigurationAccepted), "VPOF SG SRS Mask");
+  EXPECT_EQ(after(DesignSaved), "VPOF SG SRS SHowMap");
+  EXPECT_EQ(after(DesignSaved), "VPOF SG SRS SHowMap");
+  EXPECT_EQ(after(DesignsExhausted), "VPOF SG SHowMap");
+}
+
+TEST(Workflow, AManualDesignLeavesComputedOnesOpen)
+{
+  EXPECT_EQ(OpenAfter({ProjectAccepted, SurveyImported, SignalsDecorrelated, ConfigurationAccepted,
+                       ManualDesignSaved}),
+            "VPOF SG SRS SHowMap");
+}
+
+TEST(Workflow, AnEventTouchesItsOwnEntriesAlone)
+{
+  EXPECT_EQ(OpenAfter({ProjectAccepted}), "Project Import");
+  EXPECT_EQ(OpenAfter({SurveyImported}), "SG Stats SigD");
+  EXPECT_EQ(OpenAfter({SignalsDecorrelated}), "Project SigV");
+  EXPECT_EQ(OpenAfter({ConfigurationAccepted}), "Project VPOF SRS Mask");
+  EXPECT_EQ(OpenAfter({DesignSaved}), "Project SHowMap");
+  EXPECT_EQ(OpenAfter({ManualDesignSaved}), "Project SHowMap");
+  EXPECT_EQ(OpenAfter({DesignsExhausted}), "Project");
+}
+
+TEST(Workflow, AClosedEntryRefusesItsStep)
+{
+  Workflow menu;
+  EXPECT_EQ(RefusalOf([&] { menu.Require(mnuImport, "Survey import"); }),
+            "Survey import is not open at this stage of the work.");
+  menu.Apply(ProjectAccepted);
+  EXPECT_EQ(RefusalOf([&] { menu.Require(mnuImport, "Survey import"); }), "not refused");
+}
+
+}  // namespace veln
