@@ -27,6 +27,7 @@ ChildWindow::ChildWindow(Program& program, QWidget* parent, const Traits& traits
     : QDialog(parent),
       program_(program),
       offset_(traits.OffsetTwips / TwipsPerPixel),
+      origin_(traits.Origin != nullptr ? traits.Origin : program.MainWindow()),
       help_(traits.Help),
       gate_(traits.Gate)
 {
@@ -93,9 +94,9 @@ void ChildWindow::Place()
     return;  // kept on a screen by the toolkit
   }
   adjustSize();
-  if (const QWidget* main = program_.MainWindow()) {
-    const QRect screen = main->screen()->availableGeometry();
-    const QPoint corner = main->pos() + offset_;
+  if (origin_) {
+    const QRect screen = origin_->screen()->availableGeometry();
+    const QPoint corner = origin_->pos() + offset_;
     const QPoint last = screen.bottomRight() - QPoint(frameGeometry().width(), frameGeometry().height());
     move(qMax(screen.left(), qMin(corner.x(), last.x())), qMax(screen.top(), qMin(corner.y(), last.y())));
   }

@@ -23,6 +23,7 @@ class ChildWindow : public QDialog {
     QPoint OffsetTwips = {1000, 750};  ///< from the main window's corner, at the first opening; 15 to a pixel
     std::string Help;                  ///< the document that F1 opens; none if empty
     std::optional<MenuEntry> Gate;     ///< the entry whose closing unloads the window
+    QWidget* Origin = nullptr;         ///< the window that the offset counts from, if not the main window
   };
 
   ChildWindow(Program& program, QWidget* parent, const Traits& traits);
@@ -50,6 +51,7 @@ class ChildWindow : public QDialog {
 
   Program& program_;
   QPoint offset_;
+  QPointer<QWidget> origin_;
   std::string help_;
   std::optional<MenuEntry> gate_;
   bool unloaded_ = false;

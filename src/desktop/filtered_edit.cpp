@@ -26,13 +26,12 @@ bool IsDeletion(const QKeyEvent& event)
          event.matches(QKeySequence::DeleteCompleteLine);
 }
 
-/// A key that enters a character, no shortcut.
+/// A key that a text box would enter: any text but control characters and Ctrl's shortcuts.
 bool IsCharacter(const QKeyEvent& event)
 {
-  const bool shortcut =
-      (event.modifiers() & (Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier)) != 0 &&
-      (event.modifiers() & Qt::GroupSwitchModifier) == 0;
-  return !shortcut && !event.text().isEmpty() && event.text().at(0).isPrint();
+  const Qt::KeyboardModifiers held = event.modifiers() & ~(Qt::ShiftModifier | Qt::KeypadModifier);
+  return held != Qt::ControlModifier && !event.text().isEmpty() &&
+         event.text().at(0).category() != QChar::Other_Control;
 }
 
 }  // namespace
@@ -40,10 +39,13 @@ bool IsCharacter(const QKeyEvent& event)
 FilteredEdit::FilteredEdit(QWidget* parent, Filter filter) : QLineEdit(parent), filter_(std::move(filter))
 {
   setDragEnabled(false);
+  // An assistive technology puts a text in as a whole.
+  connect(this, &QLineEdit::textChanged, this, [this](const QString& text) { TakeOver(text); });
 }
 
 void FilteredEdit::Show(const QString& text)
 {
+  known_ = text;
   if (this->text() != text) {
     setText(text);
   }
@@ -68,7 +70,11 @@ void FilteredEdit::inputMethodEvent(QInputMethodEvent* event)
 {
   const QString composed = event->commitString();
   QInputMethodEvent rest(event->preeditString(), event->attributes());
-  QLineEdit::inputMethodEvent(&rest);
+  if (hasSelectedText()) {  // what is composed takes the place of the selection
+    Delete([this, &rest] { QLineEdit::inputMethodEvent(&rest); });
+  } else {
+    QLineEdit::inputMethodEvent(&rest);
+  }
   Enter(composed);
 }
 
@@ -125,7 +131,10 @@ void FilteredEdit::EnterCharacter(char32_t character, const QString& entered)
     after = before;  // a full box takes the key but not the character
   }
   if (filter_({character, FromQt(before), FromQt(after)}) && after != before) {
+    editing_ = true;
     insert(entered);
+    editing_ = false;
+    known_ = text();
   }
 }
 
@@ -137,8 +146,22 @@ void FilteredEdit::PasteText()
 void FilteredEdit::Delete(const std::function<void()>& deletion)
 {
   const QString before = text();
+  editing_ = true;
   deletion();
+  editing_ = false;
+  known_ = text();
   filter_({0, FromQt(before), FromQt(text())});
+}
+
+void FilteredEdit::TakeOver(const QString& text)
+{
+  if (editing_ || text == known_) {
+    return;
+  }
+  const QString before = known_;
+  Show("");
+  filter_({0, FromQt(before), ""});
+  Enter(text);
 }
 
 }  // namespace veln

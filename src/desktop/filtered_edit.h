@@ -31,8 +31,11 @@ class FilteredEdit : public QLineEdit {
   void EnterCharacter(char32_t character, const QString& text);
   void PasteText();
   void Delete(const std::function<void()>& deletion);
+  void TakeOver(const QString& text);
 
   Filter filter_;
+  QString known_;         // what has passed the filter
+  bool editing_ = false;  // the box changes by its own doing
 };
 
 }  // namespace veln

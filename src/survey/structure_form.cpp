@@ -1,5 +1,8 @@
 #include "survey/structure_form.h"
 
+#include <filesystem>
+#include <system_error>
+
 namespace veln {
 
 std::string StructureForm::Label9() const
@@ -18,6 +21,16 @@ void ChooseLogTransform(StructureForm& form, bool log)
   form.Option1 = log;
   form.Text1 = log ? "log(EMv)" : "EMv";
   form.Text2 = log ? "log(EMh)" : "EMh";
+}
+
+void ImportStructure(const StructureForm& form, SurveyState& state, Dialogs& dialogs,
+                     const ImportProgress& progress)
+{
+  std::error_code failure;
+  if (!std::filesystem::exists(form.Text3, failure)) {
+    dialogs.Beep();
+  }
+  ImportSurvey(state, form.Request(), progress);
 }
 
 void ChooseUnits(StructureForm& form, bool deciSiemens)

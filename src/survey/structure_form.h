@@ -1,6 +1,7 @@
 #pragma once
 
 #include "survey/survey_import.h"
+#include "toolkit/dialogs.h"
 
 #include <string>
 
@@ -26,6 +27,10 @@ struct StructureForm {
 /// A click on `Option1` (true) or `Option2`: sets the transform and puts its default labels over what was
 /// typed.
 void ChooseLogTransform(StructureForm& form, bool log);
+
+/// `Command1`: the import. Beeps first if there is no such file. Throws what `ImportSurvey` throws.
+void ImportStructure(const StructureForm& form, SurveyState& state, Dialogs& dialogs,
+                     const ImportProgress& progress);
 
 /// A change of `Check3` ("mS/m") or `Check4` ("dS/m"): exactly one of the pair is on.
 void ChooseUnits(StructureForm& form, bool deciSiemens);

@@ -92,7 +92,8 @@ bool KeyInFieldId(ProjectForm& form, const Keystroke& key, Dialogs& dialogs)
   } else {
     form.Text3 = key.After;
   }
-  if (passes && key.Character != 0 && !form.LblPrj.empty() && key.Before.size() == FieldIdLength - 1) {
+  const bool fourth = key.Before.size() == FieldIdLength - 1 && key.After.size() == FieldIdLength;
+  if (passes && key.Character != 0 && !form.LblPrj.empty() && fourth) {
     form.LblFID = key.After;
     form.LblFIDVisible = true;
     form.Command1Visible = true;

@@ -2,6 +2,7 @@
 
 #include "desktop/controls.h"
 #include "desktop/print_page.h"
+#include "desktop/signal/frm_sig_decorr.h"
 #include "desktop/text_table.h"
 
 #include <QAction>
@@ -13,7 +14,7 @@ namespace veln {
 
 frmList::frmList(Program& program, QWidget* parent)
     : ChildWindow(program, parent,
-                  {Name, "Listing of all Outlier Sites", {2000, 1500}, "", MenuEntry::mnuSigD})
+                  {Name, "Listing of all Outlier Sites", {1000, 750}, "", {}, program.Find<frmSigDecorr>()})
 {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);

@@ -68,8 +68,10 @@ frmSigDecorr::frmSigDecorr(Program& program, QWidget* parent)
 
   connect(wayOut_, &QPushButton::clicked, this, [this] { Unload(); });
   connect(perform_, &QPushButton::clicked, this, [this] {
-    Shared().Try([this] { PerformDecorrelation(form_, State()); });
-    Mirror();
+    if (Shared().Try([this] { PerformDecorrelation(form_, State()); })) {
+      Mirror();
+      wayOut_->setFocus();
+    }
     Shared().Changed();
   });
   Mirror();
@@ -161,7 +163,6 @@ void frmSigDecorr::Mirror()
     wayOut_->setToolTip("return to main program menu");
     wayOut_->setAccessibleName("Finished");
     wayOut_->setDefault(true);
-    wayOut_->setFocus();
   }
 }
 

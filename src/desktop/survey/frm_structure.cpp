@@ -24,6 +24,15 @@ namespace veln {
 
 namespace {
 
+/// The waiting pointer for as long as it lives, also past a refusal.
+class BusyPointer {
+ public:
+  BusyPointer() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
+  BusyPointer(const BusyPointer&) = delete;
+  BusyPointer& operator=(const BusyPointer&) = delete;
+  ~BusyPointer() { QGuiApplication::restoreOverrideCursor(); }
+};
+
 QLineEdit* MakeEdit(QWidget* parent, const char* name, const QString& toolTip)
 {
   auto* edit = new QLineEdit(parent);
@@ -53,6 +62,15 @@ QLabel* MakeProgressLabel(QWidget* parent, const char* name, const QString& text
 {
   QLabel* label = MakeText(parent, name, text);
   label->setWordWrap(false);
+  label->hide();
+  KeepRoom(*label);
+  return label;
+}
+
+QLabel* MakeCounter(QWidget* parent, const char* name, const QString& caption)
+{
+  QLabel* label = MakeValueLabel(parent, name, caption);
+  label->setMinimumWidth(label->fontMetrics().horizontalAdvance("30000 ") + LargeGap);
   label->hide();
   KeepRoom(*label);
   return label;
@@ -102,6 +120,14 @@ void frmStructure::dropEvent(QDropEvent* event)
   event->acceptProposedAction();
 }
 
+void frmStructure::changeEvent(QEvent* event)
+{
+  ChildWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && previewNote_ != nullptr) {
+    ShowPreview();
+  }
+}
+
 QGroupBox* frmStructure::MakeFilePart()
 {
   auto* frame = new QGroupBox("1. File", this);
@@ -142,7 +168,7 @@ QGroupBox* frmStructure::MakeColumnPart()
   siteId_ = MakeChoice<QCheckBox>(frame, "Check1", "numeric site &identification code",
                                   " indicates if sample site ID column is present in input file ");
   secondSignal_ =
-      MakeChoice<QCheckBox>(frame, "Check2", "s&2: (2nd signal column)",
+      MakeChoice<QCheckBox>(frame, "Check2", "s2: (2nd &signal column)",
                             " indicates if a 2nd column of EM signal data is present in input file ");
   grid->addWidget(siteId_, 1, 0);
   grid->addWidget(secondSignal_, 2, 0);
@@ -176,6 +202,8 @@ QGroupBox* frmStructure::MakeLabelPart()
   label1_ = MakeEdit(frame, "Text1", " enter s1 signal label here ");
   label1_->setMaxLength(LongestLabel);
   label2_ = MakeEdit(frame, "Text2", " enter s2 signal label here ");
+  label1_->setAcceptDrops(false);
+  label2_->setAcceptDrops(false);
   grid->addWidget(MakeFieldLabel(frame, "Label7", "s1 &Label:", label1_), 1, 0);
   grid->addWidget(label1_, 1, 1);
   label2Caption_ = MakeFieldLabel(frame, "Label8", "s2 Lab&el:", label2_);
@@ -238,9 +266,9 @@ QLayout* frmStructure::MakeButtons()
   auto* bottom = new QVBoxLayout;
   auto* progress = new QHBoxLayout;
   scanning_ = MakeProgressLabel(this, "Label12", "Scanning Line # ");
-  scanned_ = MakeProgressLabel(this, "Label13", "");
+  scanned_ = MakeCounter(this, "Label13", scanning_->text());
   importing_ = MakeProgressLabel(this, "Label14", "Importing Line #");
-  imported_ = MakeProgressLabel(this, "Label15", "");
+  imported_ = MakeCounter(this, "Label15", importing_->text());
   for (QLabel* label : {scanning_, scanned_, importing_, imported_}) {
     progress->addWidget(label);
   }
@@ -273,32 +301,29 @@ void frmStructure::Browse()
 void frmStructure::Import()
 {
   Program& program = Shared();
-  QGuiApplication::setOverrideCursor(Qt::WaitCursor);
-  const bool imported = program.Try([this] {
-    try {
-      ImportSurvey(State(), form_.Request(),
-                   [this](ImportPass pass, int count) { ShowProgress(pass, count); });
-    } catch (...) {
-      QGuiApplication::restoreOverrideCursor();
-      throw;
-    }
-    QGuiApplication::restoreOverrideCursor();
+  HideProgress();
+  const bool imported = program.Try([this, &program] {
+    const BusyPointer busy;
+    ImportStructure(form_, State(), program.Ask(),
+                    [this](ImportPass pass, int count) { ShowProgress(pass, count); });
   });
   if (imported) {
     Unload();
     program.Changed();
-  } else {
-    HideProgress();
   }
 }
 
 void frmStructure::ShowProgress(ImportPass pass, int count)
 {
   const bool scan = pass == ImportPass::Scanning;
-  (scan ? scanning_ : importing_)->show();
+  QLabel* caption = scan ? scanning_ : importing_;
   QLabel* counter = scan ? scanned_ : imported_;
-  counter->show();
-  counter->setText(ToQt(GeneralForm(count)));
+  if (!caption->isVisible()) {
+    caption->show();
+    caption->repaint();
+    counter->show();
+  }
+  ShowValue(*counter, ToQt(GeneralForm(count)));
   counter->repaint();
 }
 

@@ -30,6 +30,7 @@ class frmStructure : public ChildWindow {
  protected:
   void dragEnterEvent(QDragEnterEvent* event) override;
   void dropEvent(QDropEvent* event) override;
+  void changeEvent(QEvent* event) override;
 
  private:
   QGroupBox* MakeFilePart();
@@ -47,8 +48,8 @@ class frmStructure : public ChildWindow {
 
   StructureForm form_;
   QLineEdit* file_;
-  QTableWidget* preview_;
-  QLabel* previewNote_;
+  QTableWidget* preview_ = nullptr;
+  QLabel* previewNote_ = nullptr;
   QCheckBox* siteId_;
   QCheckBox* secondSignal_;
   QLabel* rowColumn_;

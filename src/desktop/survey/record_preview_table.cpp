@@ -35,12 +35,19 @@ void FillTable(QTableWidget& table, const RecordPreview& preview)
   }
 }
 
+/// Enough of an item to know it by; what is no survey file may have items of any length.
+QString Shortened(const QString& text)
+{
+  constexpr int Enough = 20;
+  return text.size() <= Enough ? text : text.left(Enough) + QChar(0x2026);
+}
+
 QString MarkFault(QTableWidget& table, const RecordPreview::Fault& fault)
 {
   QTableWidgetItem* item = table.item(static_cast<int>(fault.Record), static_cast<int>(fault.Item));
   const QString reason = "Record " + QString::number(fault.Record + 1) + ", " +
                          table.horizontalHeaderItem(static_cast<int>(fault.Item))->text() + ": \"" +
-                         item->text() + "\" would be refused: " + ToQt(fault.Reason) + ".";
+                         Shortened(item->text()) + "\" would be refused: " + ToQt(fault.Reason) + ".";
   QFont bold = item->font();
   bold.setBold(true);
   item->setFont(bold);

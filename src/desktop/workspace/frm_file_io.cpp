@@ -6,9 +6,11 @@
 
 #include <QComboBox>
 #include <QDir>
+#include <QFileInfo>
 #include <QFormLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QKeyEvent>
 #include <QLabel>
 #include <QLineEdit>
 #include <QListWidget>
@@ -25,12 +27,34 @@ namespace {
 
 constexpr std::array<int, 3> Factors = {1, 2, 4};
 
+/// A list in which Enter opens an entry and nothing more; it does not reach the window's main button.
+class DirectoryList : public QListWidget {
+ public:
+  using QListWidget::QListWidget;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override
+  {
+    QListWidget::keyPressEvent(event);
+    if (event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter) {
+      event->accept();
+    }
+  }
+};
+
 QLineEdit* MakeShownText(QWidget* parent, const char* name)
 {
   auto* text = new QLineEdit(parent);
   text->setObjectName(name);
   text->setReadOnly(true);
   return text;
+}
+
+/// The whole text is in the tool-tip, too: a long path does not fit into the line.
+void ShowPath(QLineEdit& line, const QString& text)
+{
+  line.setText(text);
+  line.setToolTip(text);
 }
 
 /// The nearest directory that exists, from a path upward.
@@ -117,18 +141,20 @@ QGroupBox* frmFileIO::MakePathPart()
   auto* column = new QVBoxLayout(frame);
   inputPath_ = MakeShownText(frame, "txtIOpath");
   QLabel* caption = MakeFieldLabel(
-      frame, "Label2", "Default &input sub-directory (for all raw input survey data files):", inputPath_);
+      frame, "Label2", "Default i&nput sub-directory (for all raw input survey data files):", inputPath_);
   column->addWidget(caption);
   column->addWidget(inputPath_);
   drives_ = new QComboBox(frame);
   drives_->setObjectName("Drive1");
   for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
-    drives_->addItem(volume.rootPath());
+    if (QFileInfo(volume.rootPath()).isDir()) {  // a single file can be a mount, too
+      drives_->addItem(volume.rootPath());
+    }
   }
-  directories_ = new QListWidget(frame);
+  directories_ = new DirectoryList(frame);
   directories_->setObjectName("Dir1");
   auto* choice = new QFormLayout;
-  choice->addRow(MakeFieldLabel(frame, "Label3", "Select &Drive:", drives_), drives_);
+  choice->addRow(MakeFieldLabel(frame, "Label3", "Select Dri&ve:", drives_), drives_);
   choice->addRow(MakeFieldLabel(frame, "Label4", "Select &sub-directory path:", directories_), directories_);
   column->addLayout(choice, 1);
   connect(drives_, &QComboBox::textActivated, this, [this](const QString& drive) { MoveTo(drive); });
@@ -140,7 +166,7 @@ QGroupBox* frmFileIO::MakePathPart()
 QGroupBox* frmFileIO::MakePrinterPart()
 {
   constexpr std::array<const char*, 3> Names = {"opt300", "opt600", "opt1200"};
-  constexpr std::array<const char*, 3> Captions = {"&300 DPI", "&600 DPI", "1&200 DPI"};
+  constexpr std::array<const char*, 3> Captions = {"300 &DPI", "600 D&PI", "1200 DP&I"};
   auto* frame = new QGroupBox("Printer", this);
   auto* column = new QVBoxLayout(frame);
   column->addWidget(
@@ -195,8 +221,8 @@ void frmFileIO::MoveTo(const QString& path)
 
 void frmFileIO::Mirror()
 {
-  editor_->setText(ToQt(form_.TxtEditor));
-  inputPath_->setText(ToQt(State().InputFilePath));
+  ShowPath(*editor_, ToQt(form_.TxtEditor));
+  ShowPath(*inputPath_, ToQt(State().InputFilePath));
   const QString drive = QStorageInfo(directory_).rootPath();
   drives_->setCurrentIndex(drives_->findText(drive));
   for (std::size_t i = 0; i < Factors.size(); ++i) {

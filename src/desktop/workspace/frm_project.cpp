@@ -59,14 +59,13 @@ QGroupBox* frmProject::MakeProjectList()
   projects_->setAccessibleName("Projects");
   projects_->setToolTip(" select a project name from list to set the current project ");
   column->addWidget(projects_);
-  const auto choose = [this](const QListWidgetItem* item) {
-    if (item != nullptr) {
-      ChooseProject(form_, FromQt(item->text()));
+  connect(projects_, &QListWidget::itemSelectionChanged, this, [this] {
+    const QList<QListWidgetItem*> selected = projects_->selectedItems();
+    if (!selected.isEmpty()) {
+      ChooseProject(form_, FromQt(selected.constFirst()->text()));
       Mirror();
     }
-  };
-  connect(projects_, &QListWidget::itemClicked, this, choose);
-  connect(projects_, &QListWidget::currentItemChanged, this, choose);
+  });
   return frame;
 }
 
@@ -125,9 +124,7 @@ QGroupBox* frmProject::MakeIdentity()
   description_->setMaxLength(LongestDescription);
   code_ = new FilteredEdit(frame, [this](const Keystroke& key) {
     const bool passes = KeyInFieldId(form_, key, Shared().Ask());
-    accept_->setVisible(form_.Command1Visible);
-    fieldId_->setVisible(form_.LblFIDVisible);
-    ShowValue(*fieldId_, ToQt(form_.LblFID));
+    MirrorFieldId();
     return passes;
   });
   code_->setObjectName("Text3");
@@ -163,7 +160,7 @@ void frmProject::Accept()
   }
 }
 
-void frmProject::Mirror()
+void frmProject::MirrorProjects()
 {
   const QSignalBlocker quiet(projects_);
   if (projects_->count() != static_cast<int>(form_.List1.size())) {
@@ -172,10 +169,29 @@ void frmProject::Mirror()
       projects_->addItem(ToQt(project));
     }
   }
-  ShowValue(*project_, ToQt(form_.LblPrj));
+  const QList<QListWidgetItem*> chosen = projects_->findItems(ToQt(form_.LblPrj), Qt::MatchCaseSensitive);
+  if (form_.LblPrj.empty() || chosen.isEmpty()) {
+    projects_->clearSelection();
+  } else {
+    projects_->setCurrentItem(chosen.constFirst());
+  }
+}
+
+void frmProject::MirrorFieldId()
+{
   ShowValue(*fieldId_, ToQt(form_.LblFID));
   fieldId_->setVisible(form_.LblFIDVisible);
   accept_->setVisible(form_.Command1Visible);
+  // Enter creates the project while that is the next thing to do.
+  QPushButton* main = form_.CreationVisible && !form_.Command1Visible ? create_ : accept_;
+  main->setDefault(true);
+}
+
+void frmProject::Mirror()
+{
+  MirrorProjects();
+  ShowValue(*project_, ToQt(form_.LblPrj));
+  MirrorFieldId();
   name_->Show(ToQt(form_.Text1));
   code_->Show(ToQt(form_.Text3));
   for (QWidget* control : {static_cast<QWidget*>(nameCaption_), static_cast<QWidget*>(name_),

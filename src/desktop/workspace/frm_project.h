@@ -26,6 +26,8 @@ class frmProject : public ChildWindow {
   QGroupBox* MakeIdentity();
   void Accept();
   void Mirror();
+  void MirrorProjects();
+  void MirrorFieldId();
 
   ProjectForm form_;
   QListWidget* projects_;
