@@ -57,14 +57,21 @@ void Rescale(HeldSignals& signals, double factor, const char* units)
   signals.Units = units;
 }
 
+bool AreComputable(const HeldSignals& signals)
+{
+  const auto describable = [](const std::vector<double>& column) {
+    return AllFinite(column) && IsFinite(DescribeSignal(column));
+  };
+  return std::ranges::all_of(signals.Columns, describable) &&
+         (signals.Columns.size() == 1 || Correlation(signals.Columns[0], signals.Columns[1]));
+}
+
 void RequireStatistics(const HeldSignals& signals)
 {
-  for (const auto& column : signals.Columns) {
-    if (!AllFinite(column) || !IsFinite(DescribeSignal(column))) {
-      throw Refusal(
-          "Error!  The changed signal data would be too large to compute with!\n"
-          "The signal data have been left as they were.");
-    }
+  if (!AreComputable(signals)) {
+    throw Refusal(
+        "Error!  The changed signal data would be too large or too small to compute with!\n"
+        "The signal data have been left as they were.");
   }
 }
 
