@@ -1,0 +1,207 @@
+#include "signal/validation.h"
+
+#include "signal/info_file.h"
+#include "signal/transition_analysis.h"
+#include "support/files.h"
+#include "support/refusals.h"
+#include "support/scripted_dialogs.h"
+#include "support/surveys.h"
+#include "support/temporary_directory.h"
+
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <vector>
+
+namespace veln {
+namespace {
+
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::IsEmpty;
+using enum MenuEntry;
+
+std::string Noon()
+{
+  return "2026-11-22 12:00:00";
+}
+
+/// Marks sites as outliers, as a decorrelation would have done.
+void MarkOutliers(SurveyState& state, const std::vector<std::size_t>& sites)
+{
+  for (const std::size_t site : sites) {
+    state.SiteStatus.at(site) = site_status::Outlier;
+  }
+  state.Decorrelation.Lblostdcnt = std::to_string(sites.size());
+}
+
+/// The record without these sites, told from the highest to the lowest.
+SurveyState Without(SurveyState state, const std::vector<std::size_t>& sites)
+{
+  const auto erase = [&sites](auto& column) {
+    for (const std::size_t site : sites) {
+      if (!column.empty()) {
+        column.erase(column.begin() + static_cast<std::ptrdiff_t>(site));
+      }
+    }
+  };
+  for (auto* column :
+       {&state.CoordX, &state.CoordY, &state.Signal1, &state.Signal2, &state.Decorr1, &state.Decorr2}) {
+    erase(*column);
+  }
+  for (auto* column : {&state.SiteId, &state.RowNumber, &state.SiteStatus}) {
+    erase(*column);
+  }
+  state.SurveySize -= static_cast<int>(sites.size());
+  return state;
+}
+
+TEST(OutlierDeletion, ClosesUpAllColumnsAndAddsUpOverIterations)
+{
+  for (const RawSurvey& survey : {TransectSurvey(6, 11), GridSurvey(11, 6, 1)}) {
+    SurveyState state = DecorrelatedSurvey(survey);
+    MarkOutliers(state, {0, 10, 11, 40, 65});  // first, neighbours, last
+    state.SiteStatus[20] = site_status::Masked;
+    SurveyState expected = Without(state, {65, 40, 11, 10, 0});
+    expected.DeletedSiteCount = 5;
+    expected.ValidationCount = 1;
+    expected.Decorrelation.LblDcnt = "5";
+    expected.Decorrelation.LblVcnt = "1";
+    UpdateSignalStats(expected);
+    EXPECT_EQ(DeleteOutliers(state), 5);
+    EXPECT_TRUE(state == expected);
+    EXPECT_EQ(state.Decorrelation.Lblostdcnt, "5");
+    EXPECT_EQ(state.Signals.Rows[0].LblSz, "61");
+
+    DecorrelateSignals(state, {});
+    MarkOutliers(state, {3, 4});
+    DeleteOutliers(state);
+    EXPECT_EQ(state.DeletedSiteCount, 7);
+    EXPECT_EQ(state.Decorrelation.LblDcnt, "7");
+    EXPECT_EQ(state.Decorrelation.LblVcnt, "2");
+  }
+}
+
+TEST(OutlierDeletion, IsRefusedWithoutOutliersAndOutOfItsTime)
+{
+  SurveyState state = DecorrelatedSurvey(GridSurvey(10, 5));
+  EXPECT_NE(WholeRefusalOf(state, [&] { DeleteOutliers(state); }), "not refused");
+  SurveyState early = ImportedSurvey(GridSurvey(10, 5));
+  EXPECT_NE(WholeRefusalOf(early, [&] { DeleteOutliers(early); }), "not refused");
+}
+
+TEST(OutlierDeletion, MayLeaveAColumnConstantWhichTheNextDecorrelationRefuses)
+{
+  RawSurvey survey = GridSurvey(51, 1);
+  std::ranges::fill(survey.Signal2, 0.1);
+  survey.Signal2[30] = 9;  // more than 7 deviations out
+  SurveyState state = DecorrelatedSurvey(survey);
+  EXPECT_EQ(DeleteOutliers(state), 1);
+  EXPECT_EQ(state.Signals.LblCorr, "");
+  EXPECT_EQ(state.Signals.Rows[1].LblStd, "0.000");
+  EXPECT_THAT(WholeRefusalOf(state, [&] { DecorrelateSignals(state, {}); }),
+              HasSubstr("\"EMh\" is constant"));
+}
+
+class Acceptances : public testing::Test {
+ protected:
+  /// Six rows of ten sites, too short to be scored; site 33 is an outlier.
+  SurveyState ShortRows()
+  {
+    SurveyState state = DecorrelatedSurvey(TransectSurvey(6, 10), {}, directory_.Path());
+    MarkOutliers(state, {33});
+    std::filesystem::create_directories(Project());
+    return state;
+  }
+  std::filesystem::path Project() { return directory_ / "data/farm"; }
+
+  TemporaryDirectory directory_;
+};
+
+TEST_F(Acceptances, OfAGridMasksOutliersWritesTheInfoFileAndOpensTheDesign)
+{
+  std::filesystem::create_directories(Project());
+  SurveyState state = DecorrelatedSurvey(GridSurvey(10, 5, 1), {}, directory_.Path());
+  MarkOutliers(state, {7});
+  state.SiteStatus[8] = site_status::Masked;
+  ScriptedDialogs dialogs;
+  const Acceptance done = AcceptConfiguration(state, {}, dialogs, Noon);
+  EXPECT_EQ(std::ranges::count(state.SiteStatus, site_status::Masked), 2);
+  EXPECT_EQ(std::ranges::count(state.SiteStatus, site_status::Free), 48);
+  EXPECT_TRUE(state.Algorithms == (AlgorithmPanel{true, "n/a", "n/a"}));
+  EXPECT_THAT(dialogs.Said, ElementsAre("inform: Data file information & statistics saved to ab12info.txt"));
+  EXPECT_THAT(done.Files, ElementsAre(Project() / "ab12info.txt"));
+  EXPECT_EQ(ReadText(Project() / "ab12info.txt"), ComposeInfoFile(state, Noon));
+  EXPECT_TRUE(state.Menu.IsEnabled(mnuVPOF) && state.Menu.IsEnabled(mnuSRS) && state.Menu.IsEnabled(mnuMask));
+  EXPECT_FALSE(state.Menu.IsEnabled(mnuSigD) || state.Menu.IsEnabled(mnuSigV));
+  EXPECT_EQ(state.ValidationCount, 0);
+  EXPECT_NE(WholeRefusalOf(state, [&] { AcceptConfiguration(state, {}, dialogs, Noon); }), "not refused");
+}
+
+TEST_F(Acceptances, OfATransectRunBufferThenTransitionThenTheInfoFile)
+{
+  SurveyState state = ShortRows();
+  ScriptedDialogs dialogs({true});
+  const Acceptance done = AcceptConfiguration(state, {true, true}, dialogs, Noon);
+  // Six rows lose two ends each, first and last row their ten sites once more.
+  EXPECT_THAT(dialogs.Said,
+              ElementsAre("inform: Note:   32 sites were masked by the edge buffering algorithm.",
+                          "inform: Note:   60 sites exceed the global signal variability level.",
+                          "ask: Would you like an output file of the TA data values created and saved?",
+                          "inform: Data file information & statistics saved to ab12info.txt"));
+  EXPECT_EQ(done.EdgeMasked, 32);
+  EXPECT_EQ(done.HighScores, 60);
+  EXPECT_EQ(std::ranges::count(state.SiteStatus, site_status::Masked), 2 * 10 + 4 * 2 + 1);
+  EXPECT_EQ(state.SiteStatus[33], site_status::Masked);
+  EXPECT_TRUE(state.TransitionDone);
+  EXPECT_EQ(state.TransitionScore, std::vector<double>(60, 1.5));
+  EXPECT_TRUE(state.Algorithms == (AlgorithmPanel{true, "invoked", "invoked"}));
+  EXPECT_EQ(ReadText(Project() / "ab12tstd.std"), ComposeTransitionFile(state));
+  EXPECT_THAT(ReadText(Project() / "ab12info.txt"), HasSubstr("Edge Buffering:          invoked\r\n"));
+}
+
+TEST_F(Acceptances, WithoutOptionsShowNoneAndANoWritesNoTransitionFile)
+{
+  SurveyState state = ShortRows();
+  SurveyState again = state;
+  ScriptedDialogs dialogs({false});
+  AcceptConfiguration(state, {}, dialogs, Noon);
+  EXPECT_TRUE(state.Algorithms == (AlgorithmPanel{true, "none", "none"}));
+  AcceptConfiguration(again, {false, true}, dialogs, Noon);
+  EXPECT_THAT(dialogs.Said.at(1), HasSubstr("Note:   12 sites were masked"));
+  EXPECT_THAT(ListFiles(Project()), ElementsAre("ab12info.txt"));
+}
+
+TEST_F(Acceptances, GoOnWhenAFileCanNotBeWritten)
+{
+  SurveyState state = ShortRows();
+  std::filesystem::create_directories(Project() / "ab12tstd.std");
+  std::filesystem::create_directories(Project() / "ab12info.txt");
+  ScriptedDialogs dialogs({true});
+  const Acceptance done = AcceptConfiguration(state, {std::nullopt, true}, dialogs, Noon);
+  ASSERT_EQ(dialogs.Said.size(), 4U);
+  EXPECT_EQ(dialogs.Said[2], "warn: Warning: could not create output TSD file...");
+  EXPECT_THAT(dialogs.Said[3], testing::AllOf(testing::StartsWith("warn: "), HasSubstr("ab12info.txt")));
+  EXPECT_THAT(done.Files, IsEmpty());
+  EXPECT_TRUE(state.TransitionDone && state.Menu.IsEnabled(mnuSRS));
+  EXPECT_THAT(ListFiles(Project()), ElementsAre("ab12info.txt/", "ab12tstd.std/"));
+}
+
+TEST_F(Acceptances, OfferTransectOptionsToNoGrid)
+{
+  SurveyState grid = DecorrelatedSurvey(GridSurvey(10, 5));
+  ScriptedDialogs dialogs;
+  for (const AcceptanceOptions& options :
+       {AcceptanceOptions{false, false}, AcceptanceOptions{std::nullopt, true}}) {
+    EXPECT_NE(WholeRefusalOf(grid, [&] { AcceptConfiguration(grid, options, dialogs, Noon); }),
+              "not refused");
+  }
+  SurveyState wide = ShortRows();
+  wide.CoordX[5] = 1E+200;  // its square leaves the doubles
+  EXPECT_NE(WholeRefusalOf(wide, [&] { AcceptConfiguration(wide, {true, false}, dialogs, Noon); }),
+            "not refused");
+  EXPECT_THAT(dialogs.Said, IsEmpty());
+}
+
+}  // namespace
+}  // namespace veln

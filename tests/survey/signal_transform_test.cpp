@@ -1,0 +1,123 @@
+#include "survey/signal_transform.h"
+
+#include "support/refusals.h"
+#include "support/surveys.h"
+
+#include <gmock/gmock.h>
+
+#include <cmath>
+
+namespace veln {
+namespace {
+
+constexpr const char* NonPositive =
+    "Error!  Non-positive signal data detected!\nThis signal data can not be log transformed.";
+
+/// What a refused transformation must leave: the record as it was, but with the labels typed.
+std::string RefusalWithLabels(SurveyState& state, const BasicStatsForm& form)
+{
+  SurveyState expected = state;
+  expected.SignalLabel = form.Labels;
+  std::string message = RefusalOf([&] { ComputeSignals(state, form); });
+  EXPECT_TRUE(state == expected) << message;
+  return message;
+}
+
+TEST(SignalTransform, FormOffersWhatTheSignalsAllow)
+{
+  SurveyState state = ImportedSurvey(GridSurvey(10, 5));
+  BasicStatsForm form = LoadBasicStatsForm(state);
+  EXPECT_TRUE(form.Check1Enabled && !form.Check2Enabled && !form.Check3Enabled && form.Check4Enabled);
+  EXPECT_TRUE(form.Text2Visible);
+  EXPECT_FALSE(form.Check1 || form.Check2 || form.Check3 || form.Check4);
+  form.Check1 = form.Check4 = true;
+  ComputeSignals(state, form);
+  form = LoadBasicStatsForm(state);
+  EXPECT_TRUE(!form.Check1Enabled && form.Check2Enabled && form.Check3Enabled && !form.Check4Enabled);
+  EXPECT_FALSE(LoadBasicStatsForm(ImportedSurvey(GridSurvey(10, 5, 1))).Text2Visible);
+}
+
+TEST(SignalTransform, LogAndScaleInOneStepAddTheLogarithmOfTheFactor)
+{
+  SurveyState state = ImportedSurvey(GridSurvey(10, 5));
+  const SurveyState before = state;
+  BasicStatsForm form = LoadBasicStatsForm(state);
+  form.Labels = {"one", "two"};
+  form.Check1 = form.Check4 = true;
+  ComputeSignals(state, form);
+  EXPECT_EQ(state.Signal1[7], std::log(before.Signal1[7]) + std::log(0.01));
+  EXPECT_EQ(state.Signal2[7], std::log(before.Signal2[7]) + std::log(0.01));
+  EXPECT_TRUE(state.LogTransform);
+  EXPECT_EQ(state.SignalTransformText, "natural log");
+  EXPECT_EQ(state.SignalUnits, "dS/m");
+  EXPECT_EQ(state.Signals.Rows[1].LblNm, "two");
+
+  form = LoadBasicStatsForm(state);
+  form.Check2 = true;
+  ComputeSignals(state, form);
+  EXPECT_NEAR(state.Signal1[7], before.Signal1[7] / 100, 1E-14);
+  EXPECT_EQ(state.SignalTransformText, "none");
+  form = LoadBasicStatsForm(state);
+  form.Check3 = true;
+  ComputeSignals(state, form);
+  EXPECT_NEAR(state.Signal2[7], before.Signal2[7], 1E-12);
+  EXPECT_EQ(state.SignalUnits, "mS/m");
+  EXPECT_EQ(state.Signals.Rows[0].LblMu, before.Signals.Rows[0].LblMu);
+}
+
+TEST(SignalTransform, NothingCheckedTakesTheLabelsAlone)
+{
+  SurveyState state = ImportedSurvey(GridSurvey(10, 5));
+  SurveyState expected = state;
+  BasicStatsForm form = LoadBasicStatsForm(state);
+  form.Labels = {"one", "two"};
+  ComputeSignals(state, form);
+  expected.SignalLabel = form.Labels;
+  expected.Signals.Rows[0].LblNm = "one";
+  expected.Signals.Rows[1].LblNm = "two";
+  EXPECT_TRUE(state == expected);
+}
+
+TEST(SignalTransform, RefusalLetsTheLabelsStandAndNothingElse)
+{
+  SurveyState state = ImportedSurvey(GridSurvey(10, 5));
+  BasicStatsForm form = LoadBasicStatsForm(state);
+  form.Labels = {"one", "two"};
+  form.Check1 = form.Check4 = true;
+  state.Signal2[49] = 0;
+  EXPECT_EQ(RefusalWithLabels(state, form), NonPositive);
+  state.Signal2[49] = 1;
+  state.Signal1[0] = -1;
+  EXPECT_EQ(RefusalWithLabels(state, form), NonPositive);
+}
+
+TEST(SignalTransform, ValuesThatLeaveTheDoublesAreRefused)
+{
+  for (const double value : {1E+307, 1E+153}) {  // the value itself, or its square
+    SurveyState state = ImportedSurvey(GridSurvey(10, 5));
+    BasicStatsForm form = LoadBasicStatsForm(state);
+    form.Check3 = true;
+    state.Signal1[3] = value;
+    EXPECT_THAT(RefusalWithLabels(state, form), testing::StartsWith("Error!  The changed signal data"));
+  }
+  // Each column can be described, the correlation of the two can't.
+  RawSurvey large = GridSurvey(10, 5);
+  large.Signal1[3] = large.Signal2[4] = 3E+75;
+  SurveyState state = ImportedSurvey(large);
+  ASSERT_NE(state.Signals.LblCorr, "");
+  BasicStatsForm form = LoadBasicStatsForm(state);
+  form.Check3 = true;
+  EXPECT_THAT(RefusalWithLabels(state, form), testing::StartsWith("Error!  The changed signal data"));
+}
+
+TEST(SignalTransform, IsClosedOnceTheSignalsAreDecorrelated)
+{
+  SurveyState state = ImportedSurvey(GridSurvey(10, 5));
+  state.Menu.Apply(WorkflowEvent::SignalsDecorrelated);
+  BasicStatsForm form = LoadBasicStatsForm(state);
+  form.Labels = {"one", "two"};
+  EXPECT_NE(WholeRefusalOf(state, [&] { ComputeSignals(state, form); }), "not refused");
+}
+
+}  // namespace
+}  // namespace veln

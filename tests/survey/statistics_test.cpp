@@ -1,0 +1,94 @@
+#include "survey/statistics.h"
+
+#include "support/refusals.h"
+#include "support/surveys.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <vector>
+
+namespace veln {
+namespace {
+
+using Series = std::vector<double>;
+
+TEST(Statistics, OfOneTwoThreeAreTwoOneThree)
+{
+  const Moments moments = MeanStd(Series{1, 2, 3});
+  EXPECT_EQ(moments.Mean, 2);
+  EXPECT_EQ(moments.Std, 1);
+  EXPECT_EQ(moments.Count, 3);
+  EXPECT_NE(RefusalOf([] { MeanStd(Series{1}); }), "not refused");
+}
+
+TEST(Statistics, LimitsKeepTheirSentinelsWhenNoValueBeatsThem)
+{
+  const auto limits = [](const Series& series) {
+    return std::pair(MinMax(series).Minimum, MinMax(series).Maximum);
+  };
+  EXPECT_EQ(limits({3, -2, 7}), std::pair(-2.0, 7.0));
+  EXPECT_EQ(limits({}), std::pair(1E+24, -1E+24));
+  EXPECT_EQ(limits({2E+24}), std::pair(1E+24, 2E+24));
+  EXPECT_EQ(limits({-2E+24}), std::pair(-2E+24, -1E+24));
+}
+
+TEST(Statistics, CorrelationDoesNotDependOnOrderScaleOrShift)
+{
+  const RawSurvey survey = GridSurvey(20, 10);
+  const Series& x = survey.Signal1;
+  const Series& y = survey.Signal2;
+  const double r = Correlation(x, y).value();
+  EXPECT_GT(r, 0.7);
+  EXPECT_LT(r, 0.95);
+  Series scaled = x;
+  Series mirrored = y;
+  for (std::size_t i = 0; i < x.size(); ++i) {
+    scaled[i] = 7 * x[i] - 1000;
+    mirrored[i] = 3 - 0.01 * y[i];
+  }
+  EXPECT_NEAR(Correlation(y, x).value(), r, 1E-15);
+  EXPECT_NEAR(Correlation(scaled, y).value(), r, 1E-12);
+  EXPECT_NEAR(Correlation(x, mirrored).value(), -r, 1E-12);
+  EXPECT_NEAR(Correlation(x, scaled).value(), 1, 1E-12);
+}
+
+TEST(Statistics, CorrelationIsUndefinedForConstantAndOverflowingSeries)
+{
+  const Series spread = {1, 2, 4};
+  // The mean of ten times 0.1 is not 0.1 in doubles, so that the computed deviation is not 0.
+  EXPECT_FALSE(Correlation(Series(10, 0.1), Series{1, 2, 3, 4, 5, 6, 7, 8, 9, 10}));
+  EXPECT_FALSE(Correlation(spread, Series{1E+200, 2E+200, 4E+200}));
+  EXPECT_FALSE(Correlation(spread, Series{1E-170, 2E-170, 4E-170}));
+  EXPECT_FALSE(Correlation(Series{1E-100, 2E-100, 4E-100}, Series{1E-100, 2E-100, 3E-100}));
+}
+
+TEST(Statistics, PanelShowsThreeDecimalsAndTheCorrelationFour)
+{
+  SurveyState state;
+  state.SignalCount = 2;
+  state.SignalLabel = {"EMv", "EMh"};
+  state.Signal1 = {1, 2, 3};
+  state.Signal2 = {2, 4, 7};  // mean 13/3, squares 114/9, products of deviations 5
+  UpdateSignalStats(state);
+  EXPECT_TRUE(state.Signals.Visible && state.Signals.CorrVisible);
+  EXPECT_TRUE(state.Signals.Rows[0] == (SignalRow{"EMv", "3", "2.000", "1.000", "1.000", "3.000"}));
+  EXPECT_TRUE(state.Signals.Rows[1] == (SignalRow{"EMh", "3", "4.333", "2.517", "2.000", "7.000"}));
+  EXPECT_EQ(state.Signals.LblCorr, "0.9934");
+  EXPECT_EQ(state.LblSS, "3");
+}
+
+TEST(Statistics, OneSignalLeavesTheSecondRowAsItWas)
+{
+  SurveyState state = ImportedSurvey(GridSurvey(10, 5));
+  const SignalPanel before = state.Signals;
+  state.SignalCount = 1;
+  state.Signal1.assign(50, 4);
+  UpdateSignalStats(state);
+  EXPECT_TRUE(state.Signals.Rows[1] == before.Rows[1]);
+  EXPECT_EQ(state.Signals.LblCorr, before.LblCorr);
+  EXPECT_TRUE(state.Signals.Rows[0] == (SignalRow{"EMv", "50", "4.000", "0.000", "4.000", "4.000"}));
+}
+
+}  // namespace
+}  // namespace veln
