@@ -19,12 +19,15 @@ QString HtmlRow(const std::vector<std::string>& cells, const QString& tag)
   return html + "</tr>";
 }
 
-QString PageHtml(const Program& program, const QString& title, const TextTable& table)
+QString HeadHtml(const Program& program, const QString& title)
 {
-  QString html = "<h2>" + title.toHtmlEscaped() +
-                 "</h2><p>Field ID: " + ToQt(program.State.FieldId).toHtmlEscaped() + "<br/>" +
-                 ToQt(program.Now()()).toHtmlEscaped() +
-                 "</p><table cellspacing='0' cellpadding='4' width='100%'><thead>" +
+  return "<h2>" + title.toHtmlEscaped() + "</h2><p>Field ID: " + ToQt(program.State.FieldId).toHtmlEscaped() +
+         "<br/>" + ToQt(program.Now()()).toHtmlEscaped() + "</p>";
+}
+
+QString TableHtml(const TextTable& table)
+{
+  QString html = "<table cellspacing='0' cellpadding='4' width='100%'><thead>" +
                  HtmlRow(table.Headings, "th") + "</thead><tbody>";
   for (const auto& row : table.Rows) {
     html += HtmlRow(row, "td");
@@ -32,9 +35,7 @@ QString PageHtml(const Program& program, const QString& title, const TextTable& 
   return html + "</tbody></table>";
 }
 
-}  // namespace
-
-void PrintTable(Program& program, QWidget* parent, const QString& title, const TextTable& table)
+void PrintHtml(Program& program, QWidget* parent, const QString& html)
 {
   program.Try([&] {
     QPrinter printer;
@@ -42,12 +43,30 @@ void PrintTable(Program& program, QWidget* parent, const QString& title, const T
       return;
     }
     QTextDocument page;
-    page.setHtml(PageHtml(program, title, table));
+    page.setHtml(html);
     page.print(&printer);
     if (printer.printerState() == QPrinter::Error) {
       throw Refusal("The page could not be printed.\nThe printer reports an error.");
     }
   });
+}
+
+}  // namespace
+
+void PrintTable(Program& program, QWidget* parent, const QString& title, const TextTable& table,
+                const QStringList& lines)
+{
+  QString text;
+  for (const QString& line : lines) {
+    text += "<p>" + line.toHtmlEscaped() + "</p>";
+  }
+  PrintHtml(program, parent, HeadHtml(program, title) + text + TableHtml(table));
+}
+
+void PrintLines(Program& program, QWidget* parent, const QString& title, const QStringList& lines)
+{
+  PrintHtml(program, parent,
+            HeadHtml(program, title) + "<pre>" + lines.join('\n').toHtmlEscaped() + "</pre>");
 }
 
 }  // namespace veln

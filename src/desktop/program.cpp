@@ -1,9 +1,11 @@
 #include "desktop/program.h"
 
 #include "desktop/child_window.h"
+#include "desktop/controls.h"
 #include "toolkit/refusal.h"
 
 #include <QApplication>
+#include <QFileDialog>
 #include <QPrintDialog>
 #include <QPrinter>
 
@@ -11,8 +13,21 @@
 
 namespace veln {
 
+namespace {
+
+std::optional<std::filesystem::path> AskForFile(const QString& title, const std::filesystem::path& offered,
+                                                const QString& filter)
+{
+  const QString chosen =
+      QFileDialog::getSaveFileName(QApplication::activeWindow(), title, ToQt(offered.string()), filter);
+  return chosen.isEmpty() ? std::nullopt : std::optional(std::filesystem::path(FromQt(chosen)));
+}
+
+}  // namespace
+
 Program::Program(Dialogs& dialogs, Clock clock, QSettings& settings)
-    : ChoosePrinter([](QPrinter& printer, QWidget* parent) {
+    : ChooseFile(AskForFile),
+      ChoosePrinter([](QPrinter& printer, QWidget* parent) {
         return QPrintDialog(&printer, parent).exec() == QDialog::Accepted;
       }),
       Quit([] { QApplication::exit(); }),  // quit() would ask the main window, which refuses to close
@@ -68,6 +83,13 @@ ChildWindow* Program::FindWindow(const char* name) const
   const auto found = windows_.find(name);
   return found == windows_.end() || !found->second || found->second->Unloaded() ? nullptr
                                                                                 : found->second.data();
+}
+
+void Program::Close(const char* name)
+{
+  if (ChildWindow* window = FindWindow(name)) {
+    window->Unload();
+  }
 }
 
 void Program::Open(const char* name, ChildWindow* window)

@@ -8,8 +8,10 @@
 #include <QSettings>
 #include <QString>
 
+#include <filesystem>
 #include <functional>
 #include <map>
+#include <optional>
 #include <vector>
 
 class QPrinter;
@@ -26,10 +28,15 @@ class Program {
   /// Lets the user choose a printer; false when the user cancels.
   using PrinterChooser = std::function<bool(QPrinter& printer, QWidget* parent)>;
 
+  /// Lets the user choose a file to save to: title, the path offered, and a filter as in "CSV files (*.csv)".
+  using FileSaver = std::function<std::optional<std::filesystem::path>(
+      const QString& title, const std::filesystem::path& offered, const QString& filter)>;
+
   /// `settings` keeps the places and sizes of windows, and nothing else.
   Program(Dialogs& dialogs, Clock clock, QSettings& settings);
 
   SurveyState State;
+  FileSaver ChooseFile;          ///< the platform's save dialog, unless replaced
   PrinterChooser ChoosePrinter;  ///< the platform's print dialog, unless replaced
   std::function<void()> Quit;    ///< leaves the event loop, unless replaced
 
@@ -56,6 +63,9 @@ class Program {
   /// or if it did not want to stay open.
   template <class Window>
   Window* Show();
+  /// Brings up a window that `make` makes for the main window, in place of one of its class that is open.
+  template <class Window, class Make>
+  Window* ShowWith(Make make);
   /// The window of that class if it is open, or null.
   template <class Window>
   Window* Find() const
@@ -66,6 +76,7 @@ class Program {
  private:
   [[nodiscard]] ChildWindow* FindWindow(const char* name) const;
   void Open(const char* name, ChildWindow* window);
+  void Close(const char* name);
 
   struct Listener {
     QPointer<QObject> Owner;
@@ -88,6 +99,14 @@ Window* Program::Show()
   } else {
     Open(Window::Name, FindWindow(Window::Name));
   }
+  return Find<Window>();
+}
+
+template <class Window, class Make>
+Window* Program::ShowWith(Make make)
+{
+  Close(Window::Name);
+  Try([this, &make] { Open(Window::Name, make(mainWindow_.data())); });
   return Find<Window>();
 }
 

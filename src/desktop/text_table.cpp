@@ -63,19 +63,9 @@ void CopyRows(const QTableWidget& widget)
 
 QTableWidget* MakeTextTable(QWidget* parent, const char* name, const TextTable& table)
 {
-  const auto columns = static_cast<int>(table.Headings.size());
-  const auto rows = static_cast<int>(table.Rows.size());
-  auto* widget = new QTableWidget(rows, columns, parent);
+  auto* widget = new QTableWidget(parent);
   widget->setObjectName(name);
-  for (int column = 0; column < columns; ++column) {
-    auto* heading = new QTableWidgetItem(ToQt(table.Headings[static_cast<std::size_t>(column)]));
-    heading->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    widget->setHorizontalHeaderItem(column, heading);
-    for (int row = 0; row < rows; ++row) {
-      const auto& cells = table.Rows[static_cast<std::size_t>(row)];
-      widget->setItem(row, column, new NumberCell(ToQt(cells[static_cast<std::size_t>(column)])));
-    }
-  }
+  FillTextTable(*widget, table);
   widget->verticalHeader()->hide();
   widget->setSelectionBehavior(QAbstractItemView::SelectRows);
   widget->setTabKeyNavigation(false);
@@ -88,6 +78,26 @@ QTableWidget* MakeTextTable(QWidget* parent, const char* name, const TextTable& 
   copy->setContext(Qt::WidgetWithChildrenShortcut);
   QObject::connect(copy, &QShortcut::activated, widget, [widget] { CopyRows(*widget); });
   return widget;
+}
+
+void FillTextTable(QTableWidget& widget, const TextTable& table)
+{
+  const bool sorted = widget.isSortingEnabled();
+  widget.setSortingEnabled(false);  // or cells would move while they are filled in
+  widget.clear();
+  widget.setColumnCount(static_cast<int>(table.Headings.size()));
+  widget.setRowCount(static_cast<int>(table.Rows.size()));
+  for (int column = 0; column < widget.columnCount(); ++column) {
+    auto* heading = new QTableWidgetItem(ToQt(table.Headings[static_cast<std::size_t>(column)]));
+    heading->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+    widget.setHorizontalHeaderItem(column, heading);
+    for (int row = 0; row < widget.rowCount(); ++row) {
+      const auto& cells = table.Rows[static_cast<std::size_t>(row)];
+      widget.setItem(row, column, new NumberCell(ToQt(cells[static_cast<std::size_t>(column)])));
+    }
+  }
+  widget.resizeColumnsToContents();
+  widget.setSortingEnabled(sorted);
 }
 
 TextTable ReadTextTable(const QTableWidget& widget)

@@ -13,6 +13,9 @@ namespace veln {
 /// selected rows, or all if none is selected, as tab-separated text with the headings.
 QTableWidget* MakeTextTable(QWidget* parent, const char* name, const TextTable& table);
 
+/// Shows another table in the widget.
+void FillTextTable(QTableWidget& widget, const TextTable& table);
+
 /// The table as it stands, in its present order.
 TextTable ReadTextTable(const QTableWidget& widget);
 

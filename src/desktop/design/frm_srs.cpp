@@ -1,0 +1,262 @@
+#include "desktop/design/frm_srs.h"
+
+#include "design/design_table.h"
+#include "design/survey_reduction.h"
+#include "desktop/controls.h"
+#include "desktop/design/frm_d_list.h"
+#include "desktop/design/frm_parse.h"
+#include "desktop/design/frm_srs_observer.h"
+#include "desktop/design/frm_srs_opt.h"
+#include "desktop/drawing_view.h"
+#include "desktop/text_roles.h"
+#include "desktop/text_table.h"
+
+#include <QAction>
+#include <QCheckBox>
+#include <QGroupBox>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLineEdit>
+#include <QProgressBar>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QTableWidget>
+
+namespace veln {
+
+namespace {
+
+void ShowChoice(QAbstractButton& button, bool on, bool enabled)
+{
+  const QSignalBlocker quiet(button);
+  button.setChecked(on);
+  button.setEnabled(enabled);
+  SetRole(button, on ? TextRole::Chosen : TextRole::Normal);
+}
+
+}  // namespace
+
+void frmSRS::Act(const std::function<void(SrsForm&)>& action)
+{
+  Shared().Try([&] { action(form_); });
+  Mirror();
+}
+
+void frmSRS::UseSettings(const Combination& combination, int strata)
+{
+  Act([&](SrsForm& form) {
+    AdjustDFactor(form, true);
+    MoveDFactor(form, DFactorOf(combination.FactorIndex));
+    if (strata > 1) {
+      SwitchParsing(form, true);
+      ParseForm parse = LoadParseForm(State());
+      ChooseStratum(parse, combination.Stratum);
+      InvokeParsing(parse, form, Shared().Ask());
+    }
+  });
+}
+
+void frmSRS::WayOut()
+{
+  CloseSrs(form_, State());
+  CloseCompanions();
+  Unload();
+  Shared().Changed();
+}
+
+void frmSRS::keyPressEvent(QKeyEvent* event)
+{
+  if (event->key() == Qt::Key_Escape && form_.Finished) {
+    event->accept();  // a finished design waits for a decision
+    return;
+  }
+  ChildWindow::keyPressEvent(event);
+}
+
+void frmSRS::Run()
+{
+  progress_.Clear();
+  frmSRSObserver observer(*this, progress_);
+  Act([&](SrsForm& form) { RunDesign(form, State(), Shared().Ask(), observer); });
+  ShowSites();
+  Shared().Changed();
+}
+
+void frmSRS::Save()
+{
+  Program& program = Shared();
+  const bool saved = program.Try([&] { SaveDesign(form_, State(), program.Ask(), program.Now()); });
+  if (!CloseIfAsked()) {
+    if (saved) {
+      progress_.Clear();
+    }
+    Mirror();
+    ShowSites();
+  }
+  program.Changed();
+}
+
+void frmSRS::Discard()
+{
+  DiscardDesign(form_, State(), Shared().Ask());
+  if (!CloseIfAsked()) {
+    progress_.Clear();
+    Mirror();
+    ShowSites();
+  }
+  Shared().Changed();
+}
+
+void frmSRS::Select(bool limited)
+{
+  Program& program = Shared();
+  frmSRSObserver observer(*this, progress_);
+  std::optional<SelectionScores> scores;
+  const bool ended =
+      program.Try([&] { scores = SelectDesigns(form_, State(), limited, program.Ask(), observer); });
+  observer.End();
+  if (!CloseIfAsked()) {
+    progress_.Clear();
+    Mirror();
+  }
+  program.Changed();
+  if (ended && scores) {
+    program.ShowWith<frmSRSOpt>([&](QWidget* main) { return new frmSRSOpt(program, main, *scores); });
+  }
+}
+
+void frmSRS::CloseCompanions()
+{
+  const auto close = [](ChildWindow* window) {
+    if (window != nullptr) {
+      window->Unload();
+    }
+  };
+  close(Shared().Find<frmParse>());
+  close(Shared().Find<frmDList>());
+  close(Shared().Find<frmSRSOpt>());
+}
+
+bool frmSRS::CloseIfAsked()
+{
+  if (form_.Closed) {
+    CloseCompanions();
+    Unload();
+    Shared().Changed();
+  }
+  return form_.Closed;
+}
+
+void frmSRS::ShowGrowth()
+{
+  if (view_ != nullptr) {
+    view_->Grown();
+  }
+}
+
+void frmSRS::ShowStatus(const QString& text)
+{
+  constexpr qsizetype Kept = 20;
+  if (text == status_->text()) {
+    return;
+  }
+  lastStatus_.append(text);
+  while (lastStatus_.size() > Kept) {
+    lastStatus_.removeFirst();
+  }
+  ShowValue(*status_, text);
+  status_->setToolTip(lastStatus_.join('\n'));
+}
+
+void frmSRS::ShowSites()
+{
+  TextTable table;
+  if (form_.Finished) {
+    table = ListDesignSites(State(), *form_.Finished);
+  }
+  FillTextTable(*sites_, table);
+  view_->Ring(std::nullopt);
+}
+
+void frmSRS::RingSite(int row)
+{
+  if (!form_.Finished || row < 0 || row >= sites_->rowCount()) {
+    view_->Ring(std::nullopt);
+    return;
+  }
+  const auto point = sites_->item(row, 0)->text().toUInt() - 1;
+  const CandidateSite& site = form_.Finished->Sites.at(point)[0];
+  view_->Ring(progress_.Place(site.X, site.Y));
+}
+
+void frmSRS::PointAt(const std::optional<DrawPoint>& place, double pixel)
+{
+  constexpr double Reach = 8;  // pixels
+  if (!form_.Finished || !place) {
+    return;
+  }
+  for (int row = 0; row < sites_->rowCount(); ++row) {
+    const auto point = sites_->item(row, 0)->text().toUInt() - 1;
+    const CandidateSite& site = form_.Finished->Sites.at(point)[0];
+    const DrawPoint at = progress_.Place(site.X, site.Y);
+    if (qAbs(at.X - place->X) < Reach * pixel && qAbs(at.Y - place->Y) < Reach * pixel) {
+      sites_->selectRow(row);
+      RingSite(row);
+      return;
+    }
+  }
+}
+
+void frmSRS::Mirror()
+{
+  MirrorSettings();
+  MirrorState();
+  ShowValue(*designNumber_, ToQt(form_.LblDN));
+  ShowValue(*sampleSize_, ToQt(form_.LblSS));
+  ShowValue(*signalColumns_, ToQt(form_.LblSC));
+  ShowStatus(ToQt(form_.LblMS));
+}
+
+void frmSRS::MirrorSettings()
+{
+  for (const DesignSize size : {DesignSize::Limited, DesignSize::Standard, DesignSize::Full}) {
+    const auto index = static_cast<std::size_t>(size);
+    sizes_.at(index)->setText(ToQt(form_.OptionCaption(size)).replace("n=", "&n="));
+    sizes_.at(index)->setAccessibleName(ToQt(form_.OptionCaption(size)));
+    ShowChoice(*sizes_.at(index), form_.Size == size, form_.OptionEnabled.at(index));
+  }
+  ShowChoice(*adjust_, form_.Check1, true);
+  ShowChoice(*ignoreTA_, form_.Check2, form_.Check2Enabled);
+  ShowChoice(*parsing_, form_.Check3, form_.Check3Enabled);
+  const QSignalBlocker quiet(factorBar_);
+  factorBar_->setValue(form_.HScroll1);
+  factorText_->setText(ToQt(form_.Text1()));
+  factorCaption_->setVisible(form_.Check1);
+  factorText_->setVisible(form_.Check1);
+  factorBar_->setVisible(form_.Check1);
+  for (std::size_t i = 0; i < reductions_.size(); ++i) {
+    reductions_.at(i)->setEnabled(form_.Reduction.Steps.at(i));
+  }
+  reduce_->setEnabled(form_.Reduction.mnuSRSReduce);
+  recover_->setEnabled(form_.Reduction.mnuSRSRecover);
+}
+
+void frmSRS::MirrorState()
+{
+  const bool ready = !form_.Finished;
+  sizeFrame_->setEnabled(ready);
+  controlFrame_->setEnabled(ready);
+  options_->setEnabled(ready);
+  levels_->setVisible(ready);
+  run_->setVisible(ready);
+  save_->setVisible(!ready);
+  discard_->setVisible(!ready);
+  run_->setDefault(ready);
+  leave_->setText("&" + ToQt(form_.Command3Caption));
+  leave_->setToolTip(ToQt(form_.Command3ToolTip));
+  leave_->setAccessibleName(ToQt(form_.Command3Caption));
+}
+
+}  // namespace veln

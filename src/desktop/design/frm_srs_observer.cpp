@@ -1,0 +1,109 @@
+#include "desktop/design/frm_srs_observer.h"
+
+#include "design/progress_view.h"
+#include "desktop/controls.h"
+#include "desktop/design/frm_srs.h"
+#include "toolkit/number_text.h"
+
+#include <QApplication>
+#include <QLabel>
+#include <QProgressBar>
+#include <QPushButton>
+
+namespace veln {
+
+frmSRSObserver::frmSRSObserver(frmSRS& window, ProgressView& picture) : window_(window), picture_(picture)
+{
+  sinceStatus_.start();
+}
+
+frmSRSObserver::~frmSRSObserver()
+{
+  End();
+}
+
+void frmSRSObserver::End()
+{
+  if (guard_) {
+    guard_.reset();
+    window_.selectionBar_->hide();
+    QGuiApplication::restoreOverrideCursor();
+  }
+}
+
+void frmSRSObserver::Status(const std::string& text)
+{
+  constexpr int RepaintMilliseconds = 17;  // 60 paints a second
+  window_.ShowStatus(ToQt(text));
+  if (sinceStatus_.elapsed() >= RepaintMilliseconds) {
+    window_.status_->repaint();
+    sinceStatus_.restart();
+  }
+}
+
+void frmSRSObserver::MapReady()
+{
+  picture_.MapReady();
+}
+
+void frmSRSObserver::CandidatesFound(int point, const PointCandidates& candidates)
+{
+  picture_.CandidatesFound(point, candidates);
+}
+
+void frmSRSObserver::Started(std::span<const PointCandidates> points)
+{
+  picture_.Started(points);
+}
+
+void frmSRSObserver::Exchanged(const CandidateSite& leaving, const CandidateSite& entering)
+{
+  picture_.Exchanged(leaving, entering);
+}
+
+void frmSRSObserver::SupportFound(const CandidateSite& site)
+{
+  picture_.SupportFound(site);
+}
+
+bool frmSRSObserver::NextDesign(int k, int n)
+{
+  if (!guard_) {
+    guard_ = std::make_unique<InputGuard>(window_.stop_);
+    QObject::connect(window_.stop_, &QPushButton::clicked, guard_.get(), [this] { stopped_ = true; });
+    QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+    window_.selectionProgress_->setRange(0, n);
+    window_.selectionBar_->show();
+    window_.stop_->setFocus();
+    sinceStart_.start();
+  }
+  ShowSelection(k, n);
+  picture_.Clear();
+  QApplication::processEvents();
+  return !stopped_;
+}
+
+void frmSRSObserver::DesignScored(std::optional<double> score)
+{
+  if (score && (!best_ || *score < *best_)) {
+    best_ = score;
+  }
+}
+
+void frmSRSObserver::ShowSelection(int k, int n)
+{
+  constexpr double Milliseconds = 1000;
+  window_.selectionProgress_->setValue(k - 1);
+  window_.selectionProgress_->setFormat(QString("design %1 of %2").arg(k).arg(n));
+  QString text;
+  if (best_) {
+    text = "best so far " + ToQt(FormatNumber(*best_, "0.000"));
+  }
+  if (k > 1) {
+    const double perDesign = static_cast<double>(sinceStart_.elapsed()) / (k - 1);
+    text += ", " + ToQt(FormatNumber(perDesign * (n - k + 1) / Milliseconds, "0")) + " s left";
+  }
+  ShowValue(*window_.selectionText_, text);
+}
+
+}  // namespace veln

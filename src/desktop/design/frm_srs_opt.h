@@ -1,0 +1,35 @@
+#pragma once
+
+#include "design/auto_selection.h"
+#include "desktop/child_window.h"
+#include "toolkit/text_table.h"
+
+#include <optional>
+
+class QPushButton;
+class QTableWidget;
+
+namespace veln {
+
+/// "Sample Design Optimization Results": the score of every combination of stratum and D-factor.
+class frmSRSOpt : public ChildWindow {
+ public:
+  static constexpr const char* Name = "frmSRSOpt";
+
+  frmSRSOpt(Program& program, QWidget* parent, const SelectionScores& scores);
+
+ private:
+  void FillGrid();
+  void MakeMenus();
+  [[nodiscard]] TextTable Table() const;
+  [[nodiscard]] std::optional<Combination> Chosen() const;
+  void SaveTable();
+  void ShowUse();
+
+  SelectionScores scores_;
+  SelectionSummary summary_;
+  QTableWidget* grid_;
+  QPushButton* use_;
+};
+
+}  // namespace veln
