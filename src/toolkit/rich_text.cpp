@@ -223,7 +223,11 @@ class RtfReader {
 RichText ReadRichText(std::string_view rtf)
 {
   constexpr std::string_view Beginning = "{\\rtf";
-  if (!rtf.starts_with(Beginning) || RtfTokens(rtf.substr(1)).Next()->Word != "rtf") {
+  if (!rtf.starts_with(Beginning)) {
+    RefuseRichText("it does not begin as one");
+  }
+  const auto first = RtfTokens(rtf.substr(1)).Next();
+  if (!first || first->Word != "rtf") {
     RefuseRichText("it does not begin as one");
   }
   return RtfReader(rtf).Read();

@@ -83,14 +83,14 @@ void RichTextBuilder::StartRow()
 
 void RichTextBuilder::EndCell()
 {
-  RequireRow();
+  auto& row = OpenRow();
   EndParagraph();
-  row_->push_back(std::exchange(cell_, {}));
+  row.push_back(std::exchange(cell_, {}));
 }
 
 void RichTextBuilder::EndRow()
 {
-  RequireRow();
+  auto& row = OpenRow();
   EndParagraph();
   if (!cell_.empty()) {
     EndCell();
@@ -98,7 +98,7 @@ void RichTextBuilder::EndRow()
   if (document_.Blocks.empty() || !std::holds_alternative<RichTable>(document_.Blocks.back())) {
     document_.Blocks.emplace_back(RichTable{});
   }
-  std::get<RichTable>(document_.Blocks.back()).Rows.push_back(std::move(*row_));
+  std::get<RichTable>(document_.Blocks.back()).Rows.push_back(std::move(row));
   row_.reset();
 }
 
@@ -120,11 +120,12 @@ RichText RichTextBuilder::Finish()
   return std::move(document_);
 }
 
-void RichTextBuilder::RequireRow() const
+std::vector<RichCell>& RichTextBuilder::OpenRow()
 {
   if (!row_) {
     RefuseRichText("a table cell stands outside a table");
   }
+  return *row_;
 }
 
 /// By the smallest letters of the paragraph: one large word makes no heading.
@@ -135,7 +136,13 @@ int RichTextBuilder::HeadingLevel(const RichParagraph& paragraph) const
     size = IsBlank(run) ? size : std::min(size, run.HalfPoints);
   }
   const int body = document_.BodyHalfPoints;
-  return size <= body ? 0 : size * 2 >= body * 3 ? 1 : size * 5 >= body * 6 ? 2 : 3;
+  if (size <= body) {
+    return 0;
+  }
+  if (size * 2 >= body * 3) {
+    return 1;
+  }
+  return size * 5 >= body * 6 ? 2 : 3;
 }
 
 }  // namespace veln

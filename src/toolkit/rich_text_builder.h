@@ -27,7 +27,7 @@ class RichTextBuilder {
   RichText Finish();
 
  private:
-  void RequireRow() const;
+  std::vector<RichCell>& OpenRow();
   [[nodiscard]] int HeadingLevel(const RichParagraph& paragraph) const;
 
   RichText document_;

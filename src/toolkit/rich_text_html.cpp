@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstddef>
+#include <ranges>
 
 namespace veln {
 
@@ -55,8 +56,8 @@ void PutRun(std::string& html, const TextRun& run, bool bold, int usualSize, cha
     PutCharacter(html, c, last == ' ');
     last = c;
   }
-  for (auto mark = marks.rbegin(); mark != marks.rend(); ++mark) {
-    html += mark->On ? std::string("</") + mark->Name + ">" : "";
+  for (const Mark& mark : std::views::reverse(marks)) {
+    html += mark.On ? std::string("</") + mark.Name + ">" : "";
   }
 }
 
@@ -71,7 +72,10 @@ void PutRuns(std::string& html, const RichParagraph& paragraph, int bodySize)
 
 void PutTable(std::string& html, const RichTable& table, int bodySize)
 {
-  html += "<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\">\n";
+  html +=
+      "<table border=\"1\" cellspacing=\"0\" cellpadding=\"4\" style=\"border-style:solid; "
+      "border-collapse:collapse; "
+      "margin-top:8px\">\n";
   for (const auto& row : table.Rows) {
     html += "<tr>";
     for (const RichCell& cell : row) {

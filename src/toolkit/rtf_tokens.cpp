@@ -81,7 +81,7 @@ RtfToken RtfTokens::TakeEscape()
 RtfToken RtfTokens::TakeWord()
 {
   constexpr std::size_t LongestWord = 32;
-  const auto end = std::ranges::find_if_not(rest_, IsLetter);
+  const auto* const end = std::ranges::find_if_not(rest_, IsLetter);
   RtfToken token{RtfToken::Type::Word, rest_.substr(0, static_cast<std::size_t>(end - rest_.begin())), {}, 0};
   if (token.Word.size() > LongestWord) {
     RefuseRichText("it holds an overlong word");
