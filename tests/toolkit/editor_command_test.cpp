@@ -62,8 +62,9 @@ TEST(EditorCommand, AnExistingFileIsTheProgramAsAWhole)
   const TemporaryDirectory folder;
   const std::string program = NotingProgram(folder, "my editor -x").string();
   EXPECT_THAT(EditorCommand(" " + program + " ", "d"), ElementsAre(program, "d"));
-  EXPECT_THAT(EditorCommand(folder.Path().string() + " x", "d"),
-              ElementsAre(folder.Path().string(), "x", "d"));
+  fs::create_directory(folder / "edit -x");
+  const std::string directory = (folder / "edit").string();
+  EXPECT_THAT(EditorCommand(directory + " -x", "d"), ElementsAre(directory, "-x", "d"));
 }
 
 TEST(EditorCommand, NoEditorIsRefused)
