@@ -31,13 +31,14 @@ function(add_layer name)
   add_library(veln::${name} ALIAS veln_${name})
 endfunction()
 
-# add_layer_tests(<name> SOURCES <file>... [LINKS <target>...])
+# add_layer_tests(<name> SOURCES <file>... [LINKS <target>...] [OWN_HEADERS])
 #
 # Makes veln_<name>_tests, one GoogleTest program for the layer of that name. Files that the tests read
 # stand in the folder data beside them (VELN_TEST_DATA); headers that several layers' tests share stand in
-# tests/support. The layer itself is linked where it exists.
+# tests/support. The layer itself is linked where it exists. With OWN_HEADERS the precompiled headers are not shared:
+# programs that use Qt are compiled as other position independent code.
 function(add_layer_tests name)
-  cmake_parse_arguments(PARSE_ARGV 1 arg "" "" "SOURCES;LINKS")
+  cmake_parse_arguments(PARSE_ARGV 1 arg "OWN_HEADERS" "" "SOURCES;LINKS")
   if(arg_UNPARSED_ARGUMENTS OR NOT arg_SOURCES)
     message(FATAL_ERROR "add_layer_tests(${name}): SOURCES are missing, or not understood: ${arg_UNPARSED_ARGUMENTS}")
   endif()
@@ -46,7 +47,9 @@ function(add_layer_tests name)
   target_include_directories(${program} PRIVATE "${PROJECT_SOURCE_DIR}/src" "${PROJECT_SOURCE_DIR}/tests")
   target_compile_definitions(${program} PRIVATE VELN_TEST_DATA="${CMAKE_CURRENT_SOURCE_DIR}/data")
   target_link_libraries(${program} PRIVATE $<TARGET_NAME_IF_EXISTS:veln::${name}> ${arg_LINKS} GTest::gmock_main veln_flags)
-  target_precompile_headers(${program} REUSE_FROM veln_test_headers)
+  if(NOT arg_OWN_HEADERS)
+    target_precompile_headers(${program} REUSE_FROM veln_test_headers)
+  endif()
   gtest_discover_tests(${program}
     DISCOVERY_MODE PRE_TEST
     DISCOVERY_TIMEOUT 60

@@ -1,6 +1,7 @@
 # Sourced by run, test, lint and bench, which set `root` to the project's folder.
 
 build_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev)
+desktop_packages=(qt6-base-dev)
 
 # install_packages NAME...: installs by apt what is missing; without anything missing it takes no time.
 install_packages() {

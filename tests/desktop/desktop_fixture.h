@@ -177,14 +177,18 @@ class MainWindowTest : public DesktopTest {
   std::unique_ptr<frmMain> Main;
 
  private:
+  /// The menu that an entry stands in; null for one of the menu bar, which also stands in the bar's own
+  /// overflow menu.
   static QMenu* MenuOf(const QAction& action)
   {
+    QMenu* menu = nullptr;
     for (QObject* object : action.associatedObjects()) {
-      if (auto* menu = dynamic_cast<QMenu*>(object)) {
-        return menu;
+      if (dynamic_cast<QMenuBar*>(object) != nullptr) {
+        return nullptr;
       }
+      menu = dynamic_cast<QMenu*>(object);
     }
-    return nullptr;
+    return menu;
   }
 
   bool OpenMenuOf(QAction& action)
@@ -204,7 +208,8 @@ class MainWindowTest : public DesktopTest {
       QMenu* above = MenuOf(*opener);
       QTest::mouseClick(above, Qt::LeftButton, {}, above->actionGeometry(opener).center());
     }
-    return menu->isVisible();
+    // Submenus open after a moment.
+    return QTest::qWaitFor([menu] { return menu->isVisible(); }, 1000);
   }
 };
 

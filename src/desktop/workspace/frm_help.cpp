@@ -12,18 +12,31 @@
 
 namespace veln {
 
+namespace {
+
+/// Opens at the size of a page.
+class HelpText : public QTextBrowser {
+ public:
+  explicit HelpText(QWidget* parent) : QTextBrowser(parent) {}
+
+  [[nodiscard]] QSize sizeHint() const override
+  {
+    constexpr int Columns = 105;
+    constexpr int Lines = 36;
+    return {fontMetrics().averageCharWidth() * Columns, fontMetrics().lineSpacing() * Lines};
+  }
+};
+
+}  // namespace
+
 frmHelp::frmHelp(Program& program, QWidget* parent)
     : ChildWindow(program, parent, {Name, "VELN-QTRD OnLine Help", {1000, 750}, "", std::nullopt})
 {
-  constexpr int Columns = 72;
-  constexpr int Lines = 22;
-  text_ = new QTextBrowser(this);
+  text_ = new HelpText(this);
   text_->setObjectName("RTB1");
   text_->setAccessibleName("Help document");
   text_->setOpenLinks(false);
   text_->document()->setDocumentMargin(WindowMargin);
-  text_->setMinimumSize(text_->fontMetrics().averageCharWidth() * Columns,
-                        text_->fontMetrics().lineSpacing() * Lines);
   QPushButton* print = MakeButton(this, "Command1", "&Print this Help File", "");
   QPushButton* back = MakeButton(this, "Command2", "&Return to VELN", "");
   back->setDefault(true);

@@ -17,6 +17,7 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QMimeData>
+#include <QPainter>
 #include <QScreen>
 #include <QScrollArea>
 #include <QStatusBar>
@@ -45,6 +46,20 @@ QString DraggedFile(const QMimeData& data)
   const QString file = urls.size() == 1 ? urls.constFirst().toLocalFile() : QString();
   return QFileInfo(file).isFile() ? file : QString();
 }
+
+/// The frame that shows where a file may be dropped.
+class DropPlace : public QFrame {
+ public:
+  explicit DropPlace(QWidget* parent) : QFrame(parent) {}
+
+ protected:
+  void paintEvent(QPaintEvent* /*event*/) override
+  {
+    QPainter painter(this);
+    painter.setPen(QPen(palette().color(QPalette::PlaceholderText), 1, Qt::DashLine));
+    painter.drawRect(rect().adjusted(0, 0, -1, -1));
+  }
+};
 
 void ScaleFont(QWidget& widget, double scale)
 {
@@ -100,7 +115,7 @@ void frmMain::MakeMenus()
 
 void frmMain::MakeContent()
 {
-  constexpr int WidestLine = 130;  // characters; beyond it the column stays in the middle
+  constexpr int WidestLine = 160;  // characters; beyond it the column stays in the middle
   auto* column = new QWidget(this);
   column->setMaximumWidth(fontMetrics().averageCharWidth() * WidestLine);
   auto* lines = new QVBoxLayout(column);
@@ -126,6 +141,7 @@ void frmMain::MakeContent()
   setCentralWidget(scroll);
 
   nextStep_ = MakeElidedLabel(this, "LblNextStep", "");
+  nextStep_->setContentsMargins(SmallGap, 0, 0, 0);
   statusBar()->addWidget(nextStep_, 1);
 }
 
@@ -155,9 +171,10 @@ QWidget* frmMain::MakeStart()
   lines->setContentsMargins(0, 0, 0, 0);
   lines->setSpacing(LargeGap);
   startLine_ = MakeText(start_, "LblStart", "Begin with File, Set / Create Project and Field ID.");
-  auto* place = new QFrame(start_);
+  constexpr int DropLines = 9;
+  auto* place = new DropPlace(start_);
+  place->setMinimumHeight(place->fontMetrics().lineSpacing() * DropLines);
   place->setObjectName("DropPlace");
-  place->setFrameShape(QFrame::StyledPanel);
   auto* inside = new QVBoxLayout(place);
   inside->setContentsMargins(LargeGap, LargeGap, LargeGap, LargeGap);
   dropLine_ = MakeText(place, "LblDrop", "");

@@ -14,6 +14,8 @@ namespace veln {
 
 namespace {
 
+constexpr int Sideways = 4;  // the column from which single values stand beside a table of three columns
+
 struct NamedText {
   const char* Name;
   const char* Text;
@@ -80,6 +82,14 @@ void SetShown(const QGroupBox& card, std::initializer_list<const char*> names, b
   for (const char* name : names) {
     card.findChild<QLabel*>(name)->setVisible(shown);
   }
+}
+
+/// Lets what stands sideways of a small table begin behind a gap, with the rest of the card empty.
+void SetSideways(QGroupBox& card)
+{
+  constexpr int Gap = 4 * LargeGap;
+  GridOf(card).setColumnMinimumWidth(Sideways - 1, Gap);
+  GridOf(card).setColumnStretch(Sideways + 2, 1);
 }
 
 QGroupBox* MakeProjectCard(QWidget* parent)
@@ -157,7 +167,6 @@ void MirrorSignals(QGroupBox& card, const SignalPanel& panel)
 
 QGroupBox* MakeDecorrelationCard(QWidget* parent)
 {
-  constexpr int Sideways = 4;  // the two counts of the iterations stand beside the table
   QGroupBox* card = MakeCard(parent, "DCFrame", "Decorrelation Statistics");
   AddText(*card, "LblLevelHeading", "Level", 0, 1, Qt::AlignRight);
   AddText(*card, "LblCountHeading", "# Sites >", 0, 2, Qt::AlignRight);
@@ -169,7 +178,7 @@ QGroupBox* MakeDecorrelationCard(QWidget* parent)
   AddValue(*card, "Lblostdcnt", "Outlier STD, # Sites >", 2, 2, Qt::AlignRight);
   AddPair(*card, {"LblDcntCaption", "Number of Previously Deleted Sites:"}, "LblDcnt", 1, Sideways);
   AddPair(*card, {"LblVcntCaption", "Number of Validation Iterations:"}, "LblVcnt", 2, Sideways);
-  GridOf(*card).setColumnStretch(Sideways - 1, 1);
+  SetSideways(*card);
   return card;
 }
 
@@ -202,7 +211,6 @@ std::string DesignLabel(int design)
 
 QGroupBox* MakeDesignCard(QWidget* parent)
 {
-  constexpr int Sideways = 4;
   QGroupBox* card = MakeCard(parent, "SDFrame", "Sample Site Designs");
   AddText(*card, "LblDesignHeading", "Dsgn #", 0, 0);
   AddText(*card, "LblSizeHeading", "# of SS", 0, 1, Qt::AlignRight);
@@ -217,7 +225,7 @@ QGroupBox* MakeDesignCard(QWidget* parent)
   }
   AddText(*card, "Lblssmdc", "Manual Dsgn Created", 0, Sideways);
   AddPair(*card, {"Lblssmd", "# of SS in MD:"}, "Lblssmdn", 1, Sideways);
-  GridOf(*card).setColumnStretch(Sideways - 1, 1);
+  SetSideways(*card);
   return card;
 }
 

@@ -1,0 +1,336 @@
+#include "desktop/desktop_fixture.h"
+#include "desktop/missing_windows.h"
+#include "support/surveys.h"
+#include "workspace/next_step.h"
+
+#include <QDropEvent>
+#include <QMimeData>
+#include <QScrollArea>
+#include <QStatusBar>
+#include <QTimer>
+#include <QUrl>
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <map>
+
+namespace veln {
+namespace {
+
+using testing::ElementsAre;
+
+struct GivenEntry {
+  const char* Name;
+  const char* Menu;
+  const char* Caption;
+  const char* Shortcut;
+};
+
+/// The menus as users, documents and scripts know them.
+constexpr GivenEntry GivenEntries[] = {
+    {"mnuFile", "", "File", ""},
+    {"mnuProject", "mnuFile", "Set / Create Project and Field ID", ""},
+    {"mnuImport", "mnuFile", "Import Survey Data File", ""},
+    {"mnuIGSF", "mnuImport", "Import a Grid Survey File", "Ctrl+G"},
+    {"mnuITSF", "mnuImport", "Import a Transect Survey File", "Ctrl+T"},
+    {"mnuVPOF", "mnuFile", "View / Print Output Files", ""},
+    {"mnuExit", "mnuFile", "Exit", "Ctrl+Q"},
+    {"mnuG", "", "Graph", ""},
+    {"mnuSG", "mnuG", "Open Graphics Window", ""},
+    {"mnuA", "", "Analysis", ""},
+    {"mnuStats", "mnuA", "Basic Statistics", ""},
+    {"mnuSigD", "mnuA", "Signal Decorrelation", ""},
+    {"mnuSigV", "mnuA", "Signal Validation", ""},
+    {"mnuD", "", "Design", ""},
+    {"mnuSRS", "mnuD", "Calculate SRS Sample Design", ""},
+    {"mnuMask", "mnuD", "Manual Sample Site Selection", ""},
+    {"mnuSHowMap", "mnuD", "Display Sample Site Map", ""},
+    {"mnuHelp", "", "Help", ""},
+    {"mnuAbout", "mnuHelp", "About VELN-QTRD ", ""},
+    {"mnuEIC", "mnuHelp", "VELN Interface Controls", ""},
+    {"mnuMHelp", "mnuHelp", "OnLine Help", ""},
+    {"mnuMH1", "mnuMHelp", "What is VELN-QTRD", ""},
+    {"mnuMH2", "mnuMHelp", "Navigating the Main Menu", "F1"},
+    {"mnuMH3", "mnuMHelp", "Frequently Asked Questions", ""},
+};
+
+const std::map<std::string, MenuEntry> Gates = {
+    {"mnuProject", MenuEntry::mnuProject}, {"mnuImport", MenuEntry::mnuImport},
+    {"mnuIGSF", MenuEntry::mnuImport},     {"mnuITSF", MenuEntry::mnuImport},
+    {"mnuVPOF", MenuEntry::mnuVPOF},       {"mnuSG", MenuEntry::mnuSG},
+    {"mnuStats", MenuEntry::mnuStats},     {"mnuSigD", MenuEntry::mnuSigD},
+    {"mnuSigV", MenuEntry::mnuSigV},       {"mnuSRS", MenuEntry::mnuSRS},
+    {"mnuMask", MenuEntry::mnuMask},       {"mnuSHowMap", MenuEntry::mnuSHowMap}};
+
+using FrmMain = MainWindowTest;
+
+TEST_F(FrmMain, HasTheGivenMenusInTheirOrder)
+{
+  EXPECT_EQ(Main->windowTitle(), "VELN-QTRD Software:   Version  2.35R");
+  std::map<std::string, QStringList> order;
+  for (const GivenEntry& given : GivenEntries) {
+    const QAction& entry = Entry(given.Name);
+    EXPECT_EQ(entry.text().remove('&'), given.Caption);
+    EXPECT_EQ(entry.shortcut().toString().toStdString(), given.Shortcut) << given.Name;
+    order[given.Menu] << given.Name;
+  }
+  for (const auto& [menu, names] : order) {
+    QStringList shown;
+    const QWidget* parent =
+        menu.empty() ? static_cast<QWidget*>(Main->menuBar()) : Entry(menu.c_str()).menu();
+    for (const QAction* action : parent->actions()) {
+      shown << action->objectName();
+    }
+    EXPECT_EQ(shown, names) << menu;
+  }
+}
+
+TEST_F(FrmMain, KeysOfCaptionsAreUniqueWithinTheirMenu)
+{
+  std::map<std::string, QString> keys;
+  for (const GivenEntry& given : GivenEntries) {
+    const QString text = Entry(given.Name).text();
+    const QChar key = text.at(text.indexOf('&') + 1).toLower();
+    EXPECT_TRUE(text.contains('&') && !keys[given.Menu].contains(key)) << given.Name;
+    keys[given.Menu] += key;
+  }
+}
+
+TEST_F(FrmMain, EnablesWhatTheWorkflowOpensAndNoMissingWindow)
+{
+  const auto expectMirrored = [this](const char* when) {
+    for (const GivenEntry& given : GivenEntries) {
+      const auto gate = Gates.find(given.Name);
+      const bool open =
+          gate == Gates.end() || (Shared.State.Menu.IsEnabled(gate->second) &&
+                                  std::ranges::count(EntriesOfMissingWindows, gate->second) == 0);
+      EXPECT_EQ(Entry(given.Name).isEnabled(), open) << given.Name << " after " << when;
+    }
+  };
+  expectMirrored("the start");
+  EXPECT_TRUE(Entry("mnuProject").isEnabled());
+  EXPECT_FALSE(Entry("mnuITSF").isEnabled());
+  using enum WorkflowEvent;
+  for (const WorkflowEvent event :
+       {ProjectAccepted, SurveyImported, SignalsDecorrelated, ConfigurationAccepted, DesignSaved,
+        DesignsExhausted, ManualDesignSaved}) {
+    Shared.State.Menu.Apply(event);
+    Shared.Changed();
+    expectMirrored(("event " + std::to_string(static_cast<int>(event))).c_str());
+  }
+  EXPECT_TRUE(Entry("mnuVPOF").isEnabled());
+}
+
+TEST_F(FrmMain, ChoosingProjectCutsTheBannerShort)
+{
+  auto& timer = *Main->findChild<QTimer*>("Timer1");
+  EXPECT_EQ(timer.interval(), 10);
+  ASSERT_TRUE(timer.isActive());
+  ASSERT_TRUE(Choose("mnuProject"));
+  EXPECT_NE(Window("frmProject"), nullptr);
+  ASSERT_TRUE(QTest::qWaitFor([&timer] { return !timer.isActive(); }));
+  EXPECT_EQ(Text("frmMain", "Label20"), "Norvane Department");
+  EXPECT_EQ(Text("frmMain", "Label22"), "Norvane Service");
+  EXPECT_EQ(Text("frmMain", "Label23"), "Norvane Laboratory");
+  EXPECT_TRUE(Shown("frmMain", "Label23"));
+}
+
+TEST_F(FrmMain, ShowsEachCardWhenItsStepHasRun)
+{
+  const auto cards = [this] {
+    std::vector<std::string> shown;
+    for (const QGroupBox* card : Main->findChildren<QGroupBox*>()) {
+      if (card->isVisible()) {
+        shown.push_back(card->title().toStdString());
+      }
+    }
+    return shown;
+  };
+  EXPECT_THAT(cards(), ElementsAre());
+  Set(NamedState());
+  EXPECT_THAT(cards(), ElementsAre("Project Status Window"));
+  EXPECT_EQ(Text("frmMain", "LblFD"), "North field");
+  EXPECT_EQ(Text("frmMain", "LblPS"), "farm");
+  EXPECT_EQ(Text("frmMain", "LblID"), "ab12");
+  EXPECT_FALSE(Shown("frmMain", "LblIF"));
+  Set(ImportedSurvey(GridSurvey(10, 8, 1)));
+  EXPECT_THAT(cards(), ElementsAre("Project Status Window", "Signal Statistics"));
+  Set(AcceptedSurvey(TransectSurvey(8, 10)));
+  EXPECT_THAT(cards(), ElementsAre("Project Status Window", "Signal Statistics", "Decorrelation Statistics",
+                                   "EB / TA  Algorithms"));
+}
+
+TEST_F(FrmMain, ShowsTheTextsOfTheRecord)
+{
+  Set(AcceptedSurvey(TransectSurvey(8, 10)));
+  Shared.State.Algorithms = {true, "invoked", "none"};
+  Shared.State.Designs.Visible = true;
+  Shared.State.Designs.Rows[1] = {" 12", " .98"};
+  Shared.Changed();
+  EXPECT_EQ(Text("frmMain", "LblIF"), "raw.txt");
+  EXPECT_EQ(Text("frmMain", "LblFT"), "Transect");
+  EXPECT_EQ(Text("frmMain", "LblSS"), "80");
+  EXPECT_EQ(Text("frmMain", "LblSC"), " 2");
+  EXPECT_EQ(Text("frmMain", "LblST"), "none");
+  EXPECT_EQ(Text("frmMain", "LblNm2"), "EMh");
+  EXPECT_EQ(Text("frmMain", "LblMx1"), Shared.State.Signals.Rows[0].LblMx);
+  EXPECT_EQ(Text("frmMain", "LblCorr"), Shared.State.Signals.LblCorr);
+  EXPECT_EQ(Text("frmMain", "Lblostd"), "4.50");
+  EXPECT_EQ(Text("frmMain", "LblEB"), "invoked");
+  EXPECT_EQ(Text("frmMain", "Label21"), "none");
+  EXPECT_EQ(Text("frmMain", "Lblssoc2"), " .98");
+  EXPECT_EQ(Control("frmMain", "Lblssoc2").accessibleName(), "Design 2 OptCri .98");
+  EXPECT_TRUE(Shown("frmMain", "Label28"));
+  EXPECT_FALSE(Shown("frmMain", "Label27"));
+  EXPECT_FALSE(Shown("frmMain", "Lblssmdn"));
+}
+
+TEST_F(FrmMain, OneSignalHasNoSecondRowAndNoCorrelation)
+{
+  Set(ImportedSurvey(GridSurvey(10, 8, 1)));
+  EXPECT_TRUE(Shown("frmMain", "LblMu1"));
+  EXPECT_FALSE(Shown("frmMain", "LblMu2"));
+  EXPECT_FALSE(Shown("frmMain", "Label13"));
+}
+
+TEST_F(FrmMain, StatusBarTellsTheNextStep)
+{
+  Set(ImportedSurvey(GridSurvey(10, 8)));
+  EXPECT_EQ(Text("frmMain", "LblNextStep"), "Next: decorrelate 80 sites");
+  EXPECT_FALSE(Shown("frmMain", "DropPlace"));
+}
+
+TEST_F(FrmMain, RefusesToCloseAndAsksInPlaceOfIt)
+{
+  Asked.Answer(false);
+  EXPECT_FALSE(Main->close());
+  EXPECT_TRUE(Main->isVisible());
+  EXPECT_EQ(Ended, 0);
+  Asked.Answer(true);
+  EXPECT_TRUE(Choose("mnuExit"));
+  EXPECT_EQ(Ended, 1);
+  EXPECT_THAT(Asked.Said,
+              ElementsAre("ask: Do You Really Wish to Exit?", "ask: Do You Really Wish to Exit?"));
+}
+
+TEST_F(FrmMain, WarnsBeforeItEndsWithoutADesign)
+{
+  Set(AcceptedSurvey(GridSurvey(10, 8)));
+  Asked.Answer(false);
+  Choose("mnuExit");
+  EXPECT_EQ(Ended, 0);
+  EXPECT_THAT(Asked.Said,
+              ElementsAre("beep",
+                          "ask: Warning!  No sample designs have been created!  Do you still wish "
+                          "to exit?"));
+}
+
+TEST_F(FrmMain, WithADesignClosingOpensTheExportOnce)
+{
+  Set(AcceptedSurvey(GridSurvey(10, 8)));
+  Shared.State.DesignCount = 1;
+  Shared.Changed();
+  Main->close();
+  QWidget* first = Window("frmOutFD");
+  ASSERT_NE(first, nullptr);
+  Main->close();
+  EXPECT_EQ(Window("frmOutFD"), first);
+  EXPECT_THAT(Asked.Said, ElementsAre());
+  EXPECT_EQ(Ended, 0);
+}
+
+TEST_F(FrmMain, EndingClosesEveryWindow)
+{
+  Choose("mnuProject");
+  Choose("mnuAbout");
+  Asked.Answer(true);
+  Main->close();
+  Settle();
+  EXPECT_EQ(Window("frmProject"), nullptr);
+  EXPECT_EQ(Window("frmAbout"), nullptr);
+  EXPECT_EQ(Ended, 1);
+}
+
+TEST_F(FrmMain, StartsTheEditorOnAChosenOutputFile)
+{
+  Set(AcceptedSurvey(GridSurvey(10, 8)));
+  Asked.ChooseFile(std::filesystem::path("/data/my file.txt"));
+  Asked.FailShell("No such file or directory");
+  Choose("mnuVPOF");
+  EXPECT_THAT(Asked.Said, ElementsAre("open: File View", "shell: [write] [/data/my file.txt]",
+                                      "warn: No such file or directory"));
+}
+
+TEST_F(FrmMain, RemembersItsPlace)
+{
+  Main->resize(700, 500);
+  Main.reset();
+  Main = std::make_unique<frmMain>(Shared);
+  EXPECT_EQ(Main->size(), QSize(700, 500));
+}
+
+/// A file dragged over the main window and let go.
+class FrmMainDrop : public MainWindowTest {
+ protected:
+  void SetUp() override
+  {
+    MainWindowTest::SetUp();
+    WriteText(Directory / "raw.txt", "1,2,3\n");
+    data_.setUrls({QUrl::fromLocalFile(RawFile())});
+  }
+
+  QString RawFile() { return QString::fromStdString((Directory / "raw.txt").string()); }
+
+  /// False if the pointer shows that the window does not take the file.
+  bool Drop()
+  {
+    QDragEnterEvent enter({20, 60}, Qt::CopyAction, &data_, Qt::LeftButton, Qt::NoModifier);
+    enter.setAccepted(false);
+    QApplication::sendEvent(Main.get(), &enter);
+    if (enter.isAccepted()) {
+      QDropEvent drop({20, 60}, Qt::CopyAction, &data_, Qt::LeftButton, Qt::NoModifier);
+      QApplication::sendEvent(Main.get(), &drop);
+      Settle();
+    }
+    return enter.isAccepted();
+  }
+
+ private:
+  QMimeData data_;
+};
+
+TEST_F(FrmMainDrop, BeforeAProjectTheFileIsKeptForTheImport)
+{
+  EXPECT_TRUE(Drop());
+  EXPECT_EQ(Window("DropMenu"), nullptr);
+  EXPECT_EQ(Text("frmMain", "LblNextStep"),
+            "Next: set or create a project and a field ID; raw.txt is kept for the import");
+  Set(NamedState());
+  ASSERT_TRUE(Choose("mnuITSF"));
+  EXPECT_EQ(Text("frmStructure", "Text3"), RawFile().toStdString());
+  EXPECT_EQ(Text("frmMain", "LblNextStep"), "Next: import a survey data file");
+}
+
+TEST_F(FrmMainDrop, WithAProjectItAsksForTheSurveyTypeAtThePointer)
+{
+  Set(NamedState());
+  EXPECT_TRUE(Drop());
+  auto* menu = dynamic_cast<QMenu*>(Window("DropMenu"));
+  ASSERT_NE(menu, nullptr);
+  EXPECT_EQ(menu->pos(), Main->mapToGlobal(QPoint(20, 60)));
+  ASSERT_EQ(menu->actions().size(), 2);
+  EXPECT_EQ(menu->actions().at(0)->text().remove('&'), "Grid");
+  QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(menu->actions().at(1)).center());
+  Settle();
+  EXPECT_EQ(Text("frmStructure", "Text3"), RawFile().toStdString());
+  EXPECT_TRUE(Shown("frmStructure", "Label5")) << "a transect survey has row numbers";
+}
+
+TEST_F(FrmMainDrop, AfterTheImportItIsNotTaken)
+{
+  Set(ImportedSurvey(GridSurvey(10, 8)));
+  EXPECT_FALSE(Drop());
+}
+
+}  // namespace
+}  // namespace veln
