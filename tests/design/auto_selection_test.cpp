@@ -111,10 +111,11 @@ TEST(AutoSelection, ScoresAreThoseOfSingleRunsAtFourDecimals)
       }
     }
     EXPECT_EQ(window.State, before);
-    EXPECT_THAT(Describe(window.Form),
-                testing::StartsWith(
-                    "ready; sizes 5* 10 18; D 1 1.00; TA 00; parsing 01 1/0; support 0; reduce 000000; "
-                    "design 1 of 5 by 2\nTotal Survey size =  1200  Active"));
+    EXPECT_THAT(
+        Describe(window.Form),
+        testing::StartsWith(
+            "open and ready; sizes 5* 10 18; D 1 1.00; TA 00; parsing 01 1/0; support 0; reduce 000000; "
+            "design 1 of 5 by 2\nTotal Survey size =  1200  Active"));
     EXPECT_EQ(window.Form.LoopCount, 0);
   }
 }

@@ -156,11 +156,9 @@ inline std::string SizesOf(const SrsForm& form)
 inline std::string Describe(const SrsForm& form)
 {
   std::ostringstream text;
-  text << (form.Closed     ? "closed"
-           : form.Finished ? "finished"
-                           : "ready")
-       << "; sizes " << SizesOf(form) << "; D " << form.Check1 << ' ' << form.Text1() << "; TA "
-       << form.Check2 << form.Check2Enabled << "; parsing " << form.Check3 << form.Check3Enabled << ' '
+  text << (form.Closed ? "closed" : "open") << (form.Finished ? " and finished" : " and ready") << "; sizes "
+       << SizesOf(form) << "; D " << form.Check1 << ' ' << form.Text1() << "; TA " << form.Check2
+       << form.Check2Enabled << "; parsing " << form.Check3 << form.Check3Enabled << ' '
        << form.Parsing.ParseDenominator << '/' << form.Parsing.ParseModulus << "; support "
        << form.IncludeSupportSites << "; reduce " << form.Reduction.mnuSRSReduce;
   for (const bool step : form.Reduction.Steps) {

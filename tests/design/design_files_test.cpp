@@ -77,6 +77,7 @@ TEST_F(DesignFiles, GridOfOneSignalAndSixSites)
 TEST_F(DesignFiles, TransectOfTwoSignalsAndTwelveSitesInAStratum)
 {
   std::vector<HandSite> sites;
+  sites.reserve(14);
   for (int i = 0; i < 14; ++i) {
     sites.push_back({500 + 2.5 * i, i < 7 ? 80 : 60.1234567, 0.25 * i - 1.75, 0.125 * i - 0.8});
   }

@@ -101,7 +101,7 @@ class PlainRun {
     }
   }
 
-  double NearestOf(int n1, int n2) const
+  [[nodiscard]] double NearestOf(int n1, int n2) const
   {
     double best = 1E+24;
     for (int j = 1; j <= n2; ++j) {
@@ -114,7 +114,7 @@ class PlainRun {
     return best;
   }
 
-  double LogSeparation(int n) const
+  [[nodiscard]] double LogSeparation(int n) const
   {
     double sum = 0;
     for (int i = 1; i <= n; ++i) {
@@ -210,6 +210,7 @@ TEST(DesignRun, AgreesWithThePlainRule)
                                                    "  Now searching for 2st SS..."),
           size == DesignSize::Limited ? 0 : 1);
       std::vector<double> codes;
+      codes.reserve(plain.Codes.size());
       for (int point = 0; point < design.PointCount(); ++point) {
         codes.push_back(design.Sites.at(static_cast<std::size_t>(point))[0].SiteId);
       }

@@ -51,7 +51,8 @@ TEST_F(SrsFormTest, OpensWithTheStandardSizeAndTellsTheSurvey)
 {
   SurveyState state = Survey(79);
   EXPECT_EQ(Describe(OpenSrs(state, dialogs_)),
-            "ready; sizes 6 12* (20); D 0 1.00; TA 00; parsing 00 1/0; support 1; reduce 000000; design 1 of "
+            "open and ready; sizes 6 12* (20); D 0 1.00; TA 00; parsing 00 1/0; support 1; reduce 000000; "
+            "design 1 of "
             "12 by 2\n"
             "Total Survey size =  100  Active (available) Survey size =  79\n"
             "(Total Survey Size =  100   Active Survey Size =  79)\n"
@@ -191,7 +192,7 @@ TEST_F(SrsFormTest, FinishedDesignClosesAllSettingsUntilADecision)
   Run(form, state);
   const SurveyState survey = state;
   const std::string window = Describe(form);
-  EXPECT_THAT(window, testing::StartsWith("finished; "));
+  EXPECT_THAT(window, testing::StartsWith("open and finished; "));
   EXPECT_THAT(window, testing::HasSubstr("\nFinishedreturn to main program menu"));
   const std::vector<std::function<void()>> actions = {
       [&] { ChooseSize(form, state, DesignSize::Limited); },
@@ -327,8 +328,9 @@ TEST_F(SrsFormTest, ReopeningResetsTheSettingsButNotTheDesigns)
   CloseSrs(form, state);
   EXPECT_THAT(
       Describe(OpenSrs(state, dialogs_)),
-      testing::StartsWith("ready; sizes 6 12* 20; D 0 1.00; TA 01; parsing 01 1/0; support 1; reduce 000000; "
-                          "design 2 of 12 by 2\n"));
+      testing::StartsWith(
+          "open and ready; sizes 6 12* 20; D 0 1.00; TA 01; parsing 01 1/0; support 1; reduce 000000; "
+          "design 2 of 12 by 2\n"));
 }
 
 // A directory in the place of one of the three files makes the save fail.
@@ -364,6 +366,7 @@ TEST_F(SrsFormTest, FailedSaveLeavesEverythingAsItWas)
 TEST_F(SrsFormTest, NoteTellsSupportSitesThatCouldNotBePlaced)
 {
   std::vector<HandSite> sites;
+  sites.reserve(48);
   for (int i = 0; i < 48; ++i) {
     sites.push_back({10.0 * i, 1.0 * i * i, i % 2 == 0 ? 1.0 + 0.03 * i : -1.0 - 0.03 * i});
   }

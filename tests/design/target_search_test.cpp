@@ -81,6 +81,7 @@ TEST(TargetSearch, StratumWithoutASiteEndsTheRunAndFreesAllCandidates)
   settings.Parsing = {5, 0};
   RunObserver silent;
   std::vector<HandSite> sites;
+  sites.reserve(19);
   for (int i = 0; i < 18; ++i) {
     sites.push_back({10.0 * i, 3.0 * i * i, 0.25 * i - 2});
   }
