@@ -43,6 +43,9 @@ ChildWindow::ChildWindow(Program& program, QWidget* parent, const Traits& traits
 
 void ChildWindow::BringUp()
 {
+  if (unloaded_) {
+    return;  // it closed itself while it loaded
+  }
   if (!isVisible()) {
     Place();
     show();
@@ -93,9 +96,10 @@ void ChildWindow::Place()
   if (restoreGeometry(program_.Settings().value(GeometryKey(*this)).toByteArray())) {
     return;  // kept on a screen by the toolkit
   }
-  adjustSize();
+  const QRect screen = (origin_ ? origin_->screen() : this->screen())->availableGeometry();
+  ensurePolished();
+  resize(sizeHint().expandedTo(minimumSizeHint()).boundedTo(screen.size()));
   if (origin_) {
-    const QRect screen = origin_->screen()->availableGeometry();
     const QPoint corner = origin_->pos() + offset_;
     const QPoint last = screen.bottomRight() - QPoint(frameGeometry().width(), frameGeometry().height());
     move(qMax(screen.left(), qMin(corner.x(), last.x())), qMax(screen.top(), qMin(corner.y(), last.y())));

@@ -7,6 +7,7 @@
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QShortcut>
+#include <QStyledItemDelegate>
 #include <QTableWidget>
 
 #include <algorithm>
@@ -29,6 +30,31 @@ class NumberCell : public QTableWidgetItem {
     const auto mine = ParseNumber(FromQt(text()));
     const auto theirs = ParseNumber(FromQt(other.text()));
     return mine && theirs ? *mine < *theirs : QTableWidgetItem::operator<(other);
+  }
+};
+
+/// Draws a number with blanks of a digit's width in place of the decimals that others in its column have
+/// more, so that the decimal points stand under each other. The cell's text stays as it is.
+class DecimalAligner : public QStyledItemDelegate {
+ public:
+  using QStyledItemDelegate::QStyledItemDelegate;
+
+  /// The characters from the decimal point on.
+  static int Decimals(const QString& number)
+  {
+    const qsizetype point = number.indexOf('.');
+    return point < 0 ? 0 : static_cast<int>(number.size() - point);
+  }
+
+ protected:
+  void initStyleOption(QStyleOptionViewItem* option, const QModelIndex& index) const override
+  {
+    constexpr QChar FigureSpace(0x2007);
+    QStyledItemDelegate::initStyleOption(option, index);
+    const int most = index.model()->headerData(index.column(), Qt::Horizontal, Qt::UserRole).toInt();
+    if (ParseNumber(FromQt(option->text))) {
+      option->text += QString(most - Decimals(option->text), FigureSpace);
+    }
   }
 };
 
@@ -66,11 +92,13 @@ QTableWidget* MakeTextTable(QWidget* parent, const char* name, const TextTable& 
   auto* widget = new QTableWidget(parent);
   widget->setObjectName(name);
   FillTextTable(*widget, table);
+  widget->setItemDelegate(new DecimalAligner(widget));
   widget->verticalHeader()->hide();
+  widget->verticalHeader()->setDefaultSectionSize(widget->fontMetrics().lineSpacing() + SmallGap);
   widget->setSelectionBehavior(QAbstractItemView::SelectRows);
   widget->setTabKeyNavigation(false);
   widget->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-  widget->resizeColumnsToContents();
+  widget->resizeColumnsToContents();  // by the delegate's texts
   widget->horizontalHeader()->setStretchLastSection(true);
   widget->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
   widget->setSortingEnabled(true);
@@ -91,10 +119,14 @@ void FillTextTable(QTableWidget& widget, const TextTable& table)
     auto* heading = new QTableWidgetItem(ToQt(table.Headings[static_cast<std::size_t>(column)]));
     heading->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     widget.setHorizontalHeaderItem(column, heading);
+    int decimals = 0;
     for (int row = 0; row < widget.rowCount(); ++row) {
       const auto& cells = table.Rows[static_cast<std::size_t>(row)];
-      widget.setItem(row, column, new NumberCell(ToQt(cells[static_cast<std::size_t>(column)])));
+      const QString text = ToQt(cells[static_cast<std::size_t>(column)]);
+      widget.setItem(row, column, new NumberCell(text));
+      decimals = qMax(decimals, DecimalAligner::Decimals(text));
     }
+    heading->setData(Qt::UserRole, decimals);
   }
   widget.resizeColumnsToContents();
   widget.setSortingEnabled(sorted);

@@ -129,6 +129,7 @@ QScrollBar* frmSigDecorr::MakeBar(const char* name, int level, void (*moveLevel)
   auto* bar = new QScrollBar(Qt::Horizontal, this);
   bar->setObjectName(name);
   bar->setFocusPolicy(Qt::StrongFocus);
+  bar->setInvertedControls(false);  // to the right is more
   bar->setMinimumWidth(ShortestBar);
   bar->setRange(LowestLevel, HighestLevel);
   bar->setSingleStep(SmallChange);

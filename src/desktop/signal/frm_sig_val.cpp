@@ -132,6 +132,8 @@ QGroupBox* frmSigVal::MakeEdgeOptions()
                              " click here to invoke the edge buffering algorithm ");
   rowCount_ = MakeText(frame, "LblRC", "");
   rowQuestion_ = MakeText(frame, "Label2", "mask all sites in 1st and last rows:");
+  rowQuestion_->setWordWrap(false);
+  rowCount_->setWordWrap(false);
   rowsYes_ = MakeOption(frame, "OptEB1", "&Yes", "");
   rowsNo_ = MakeOption(frame, "OptEB2", "&No", "");
   auto* first = new QHBoxLayout;

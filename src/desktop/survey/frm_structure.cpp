@@ -51,6 +51,31 @@ Button* MakeChoice(QWidget* parent, const char* name, const QString& caption, co
   return button;
 }
 
+/// The longest line of the window, which tells how wide it is at least.
+QString LongestLine()
+{
+  StructureForm transect;
+  transect.Transect = true;
+  return ToQt(transect.Label9());
+}
+
+/// A given text on one line.
+QLabel* MakeLine(QWidget* parent, const char* name, const QString& text)
+{
+  QLabel* label = MakeText(parent, name, text);
+  label->setWordWrap(false);
+  return label;
+}
+
+/// A given text of several lines with the room that it needs at the width of `widest`, or at any larger one.
+QLabel* MakeParagraph(QWidget* parent, const char* name, const QString& text, const QString& widest)
+{
+  QLabel* label = MakeText(parent, name, text);
+  const int width = label->fontMetrics().horizontalAdvance(widest);
+  label->setMinimumSize(width, label->heightForWidth(width));
+  return label;
+}
+
 void ShowChoice(QAbstractButton& button, bool on, TextRole offRole)
 {
   const QSignalBlocker quiet(button);
@@ -60,8 +85,7 @@ void ShowChoice(QAbstractButton& button, bool on, TextRole offRole)
 
 QLabel* MakeProgressLabel(QWidget* parent, const char* name, const QString& text)
 {
-  QLabel* label = MakeText(parent, name, text);
-  label->setWordWrap(false);
+  QLabel* label = MakeLine(parent, name, text);
   label->hide();
   KeepRoom(*label);
   return label;
@@ -142,7 +166,8 @@ QGroupBox* frmStructure::MakeFilePart()
   preview_ = MakePreviewTable(frame);
   grid->addWidget(preview_, 1, 0, 1, 3);
   previewNote_ = MakeText(frame, "previewNote", "");
-  previewNote_->setMinimumHeight(previewNote_->fontMetrics().lineSpacing());
+  previewNote_->setAlignment(Qt::AlignLeft | Qt::AlignTop);
+  previewNote_->setMinimumHeight(2 * previewNote_->fontMetrics().lineSpacing());
   grid->addWidget(previewNote_, 2, 0, 1, 3);
   grid->setRowStretch(1, 1);
   connect(browse, &QPushButton::clicked, this, [this] { Browse(); });
@@ -158,12 +183,12 @@ QGroupBox* frmStructure::MakeColumnPart()
   auto* frame = new QGroupBox("2. Columns", this);
   auto* grid = new QGridLayout(frame);
   grid->addWidget(
-      MakeText(
+      MakeParagraph(
           frame, "Label1",
           "The site identification and/or s2 siganl columns represent optional data columns which can be "
-          "included "
-          "in an import grid or transect data file.  Please indicate if either or both of these columns are "
-          "present in your file by checking the appropriate boxes.  "),
+          "included in an import grid or transect data file.  Please indicate if either or both of these "
+          "columns are present in your file by checking the appropriate boxes.  ",
+          LongestLine()),
       0, 0, 1, 3);
   siteId_ = MakeChoice<QCheckBox>(frame, "Check1", "numeric site &identification code",
                                   " indicates if sample site ID column is present in input file ");
@@ -172,13 +197,13 @@ QGroupBox* frmStructure::MakeColumnPart()
                             " indicates if a 2nd column of EM signal data is present in input file ");
   grid->addWidget(siteId_, 1, 0);
   grid->addWidget(secondSignal_, 2, 0);
-  grid->addWidget(MakeText(frame, "Label2", "REQUIRED:  x-coordinate"), 1, 1);
-  grid->addWidget(MakeText(frame, "Label3", "REQUIRED:  y-coordinate"), 2, 1);
-  grid->addWidget(MakeText(frame, "Label4", "REQUIRED:  s1 (1st signal column)"), 1, 2);
-  rowColumn_ = MakeText(frame, "Label5", "REQUIRED:  row number");
+  grid->addWidget(MakeLine(frame, "Label2", "REQUIRED:  x-coordinate"), 1, 1);
+  grid->addWidget(MakeLine(frame, "Label3", "REQUIRED:  y-coordinate"), 2, 1);
+  grid->addWidget(MakeLine(frame, "Label4", "REQUIRED:  s1 (1st signal column)"), 1, 2);
+  rowColumn_ = MakeLine(frame, "Label5", "REQUIRED:  row number");
   KeepRoom(*rowColumn_);
   grid->addWidget(rowColumn_, 2, 2);
-  order_ = MakeText(frame, "Label9", "");
+  order_ = MakeLine(frame, "Label9", "");
   grid->addWidget(order_, 3, 0, 1, 3);
   connect(siteId_, &QCheckBox::toggled, this, [this](bool on) {
     form_.Check1 = on;
@@ -241,17 +266,17 @@ void frmStructure::AddTransform(QGridLayout& grid, QWidget* frame)
   line->setContentsMargins(0, 0, 0, 0);
   logYes_ = MakeChoice<QRadioButton>(choice, "Option1", "&Yes", " apply natural log transform ");
   logNo_ = MakeChoice<QRadioButton>(choice, "Option2", "&No", " do not apply natural log transform ");
-  QLabel* question = MakeText(choice, "Label10", "Perform natural log transform on input signal data?");
-  question->setWordWrap(false);
-  line->addWidget(question);
+  line->addWidget(MakeLine(choice, "Label10", "Perform natural log transform on input signal data?"));
   line->addWidget(logYes_);
   line->addWidget(logNo_);
   line->addStretch();
   grid.addWidget(choice, 3, 0, 1, 4);
   grid.addWidget(
-      MakeText(frame, "Label16",
-               "(Note: select Yes if you are performing a soil salinity survey, and you expect that          "
-               "        at least 10% of the field exceeds 4 dS/m.)"),
+      MakeParagraph(
+          frame, "Label16",
+          "(Note: select Yes if you are performing a soil salinity survey, and you expect that          "
+          "        at least 10% of the field exceeds 4 dS/m.)",
+          LongestLine()),
       4, 0, 1, 4);
   for (const bool yes : {true, false}) {
     connect(yes ? logYes_ : logNo_, &QRadioButton::clicked, this, [this, yes] {

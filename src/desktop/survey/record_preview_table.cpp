@@ -53,6 +53,7 @@ QString MarkFault(QTableWidget& table, const RecordPreview::Fault& fault)
   item->setFont(bold);
   item->setForeground(RoleColour(TextRole::Warning, table.palette()));
   item->setToolTip(reason);
+  table.scrollToItem(item);
   return reason;
 }
 
@@ -61,12 +62,16 @@ QString MarkFault(QTableWidget& table, const RecordPreview::Fault& fault)
 QTableWidget* MakePreviewTable(QWidget* parent)
 {
   constexpr int VisibleRows = 5;
+  constexpr int WidestColumn = 240;  // what is no survey file may have items of any length
   auto* table = new QTableWidget(parent);
   table->setObjectName("preview");
   table->setAccessibleName("First records of the file");
   table->setTabKeyNavigation(false);
-  table->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
-  table->setMinimumHeight(table->fontMetrics().lineSpacing() * 2 * VisibleRows);
+  table->horizontalHeader()->setSectionResizeMode(QHeaderView::ResizeToContents);
+  table->horizontalHeader()->setMaximumSectionSize(WidestColumn);
+  const int rowHeight = table->fontMetrics().lineSpacing() + SmallGap;
+  table->verticalHeader()->setDefaultSectionSize(rowHeight);
+  table->setMinimumHeight(rowHeight * (VisibleRows + 1) + SmallGap);
   return table;
 }
 

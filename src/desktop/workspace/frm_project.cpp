@@ -115,7 +115,7 @@ QGroupBox* frmProject::MakeIdentity()
   auto* frame = new QGroupBox("Project / Field ID Information", this);
   frame->setObjectName("Frame1");
   auto* grid = new QGridLayout(frame);
-  project_ = MakeValueLabel(frame, "LblPrj", "Project:");
+  project_ = MakeElidedLabel(frame, "LblPrj", "Project:");
   fieldId_ = MakeValueLabel(frame, "LblFID", "Field ID:");
   KeepRoom(*fieldId_);
   description_ = new QLineEdit(frame);
