@@ -87,20 +87,6 @@ TEST(OutputView, HelpDocumentsAreReadFromTheirFolder)
                 (folder / "helpdocs/hdoc04.rtf").string());
 }
 
-TEST(OutputView, EachHelpControlHasItsDocument)
-{
-  std::string topics;
-  for (const HelpTopic& topic : HelpTopics) {
-    topics += std::string(topic.Document).substr(4) + " " + topic.Window + " " + topic.Control + "\n";
-  }
-  EXPECT_EQ(topics,
-            "01 frmBasicStats CHelp\n02 frmParse Command3\n03 frmIGC CHelp\n04 frmProject CHelp\n"
-            "05 frmStructure Chelp\n06 frmMask CHelp\n07 frmPCT CHelp\n09 frmSigDecorr CHelp\n"
-            "10 frmSigVal CHelp\n11 frmSRS mnuSRSH1\n11b frmSRS mnuSRSH2\n11c frmSRS mnuSRSH3\n"
-            "12 frmSvyGraph mnuGH1\n13 frmSvyGraph mnuGH2\n14 frmMain mnuMH1\n15 frmMain mnuMH2\n"
-            "16 frmMain mnuMH3\n17 frmFileIO cmdHelp\n18 frmSiteMap mnusubSSMHelp\n");
-}
-
 TEST(OutputView, PrintingHelpOpensAScratchCopy)
 {
   const TemporaryDirectory folder;
