@@ -17,7 +17,7 @@ void ConsoleDialogs::Inform(const std::string& text)
 void ConsoleDialogs::Warn(const std::string& text)
 {
   warned_ = true;
-  errors_ << text << std::endl;
+  errors_ << text << "\n" << std::flush;
 }
 
 bool ConsoleDialogs::Ask(const std::string& text)

@@ -38,7 +38,11 @@ int Run(const std::vector<std::string>& arguments)
 int main(int argc, char** argv)
 {
   try {
-    return Run({argv + 1, argv + argc});
+    const int status = Run({argv + 1, argv + argc});
+    if (!std::cout.flush()) {
+      throw veln::Refusal("Standard output could not be written.");
+    }
+    return status;
   } catch (const veln::Refusal& refusal) {
     std::cout.flush();
     std::cerr << refusal.Message() << "\n";

@@ -45,13 +45,14 @@ std::string ScoreCell(const SelectionScores& scores, const SelectionSummary& sum
   constexpr std::size_t CellWidth = 9;
   const auto& score = ScoreOf(scores, combination);
   if (!score) {
-    return std::string(CellWidth + 1, ' ');
+    return PadLeft("", CellWidth + 1);
   }
-  const bool best = summary.Best && summary.Best->Stratum == combination.Stratum &&
-                    summary.Best->FactorIndex == combination.FactorIndex;
-  return PadLeft(FormatNumber(*score, "0.000"), CellWidth) + (best                           ? "*"
-                                                              : IsAcceptable(summary, score) ? "+"
-                                                                                             : " ");
+  std::string mark = IsAcceptable(summary, score) ? "+" : " ";
+  if (summary.Best && summary.Best->Stratum == combination.Stratum &&
+      summary.Best->FactorIndex == combination.FactorIndex) {
+    mark = "*";
+  }
+  return PadLeft(FormatNumber(*score, "0.000"), CellWidth) + mark;
 }
 
 /// Tables end their lines without trailing blanks.

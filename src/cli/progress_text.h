@@ -15,6 +15,10 @@ class ProgressText {
  public:
   /// Prints nothing when `out` is null.
   ProgressText(std::ostream* out, bool terminal) : out_(out), terminal_(terminal && out != nullptr) {}
+  ProgressText(const ProgressText&) = delete;
+  ProgressText& operator=(const ProgressText&) = delete;
+  /// A step that is refused leaves no counter on the line of its message.
+  ~ProgressText() { ClearCounter(); }
 
   /// One step: its name and what it did.
   void Step(std::string_view name, std::string_view text);

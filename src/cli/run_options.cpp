@@ -139,8 +139,8 @@ void RequireProject(const std::filesystem::path& root, const std::string& name)
 
 void ReadIdentity(const RawOptions& raw, RunOptions& options)
 {
-  RequirePath("--root", raw.Root);
   options.Root = AbsoluteRoot(raw.Root);
+  RequirePath("--root", options.Root.string());
   RequirePath("--project", raw.Project);
   RequireProject(options.Root, raw.Project);
   if (!IsFieldId(raw.Field)) {
@@ -243,6 +243,27 @@ RunOptions ApplyRules(const RawOptions& raw)
   return options;
 }
 
+/// "--option=" has an empty value. The parser would take the argument behind it, so the value is written out.
+std::vector<std::string> WriteOutEmptyValues(const CLI::App& run, const std::vector<std::string>& arguments)
+{
+  const auto takesValue = [&run](const std::string& name) {
+    const CLI::Option* option = name.starts_with("--") ? run.get_option_no_throw(name) : nullptr;
+    return option != nullptr && option->get_items_expected_min() > 0;
+  };
+  std::vector<std::string> words;
+  bool isValue = false;
+  for (const std::string& argument : arguments) {
+    const std::string name = argument.substr(0, argument.find('='));
+    const bool hasEmptyValue = !isValue && argument == name + "=" && takesValue(name);
+    words.push_back(hasEmptyValue ? name : argument);
+    if (hasEmptyValue) {
+      words.emplace_back();
+    }
+    isValue = !isValue && takesValue(argument);
+  }
+  return words;
+}
+
 }  // namespace
 
 CommandLine ReadCommandLine(const std::vector<std::string>& arguments)
@@ -256,9 +277,10 @@ CommandLine ReadCommandLine(const std::vector<std::string>& arguments)
   AddAnalysisOptions(run, raw);
   AddDesignOptions(run, raw);
   try {
-    app.parse(std::vector<std::string>(arguments.rbegin(), arguments.rend()));
+    const std::vector<std::string> words = WriteOutEmptyValues(run, arguments);
+    app.parse(std::vector<std::string>(words.rbegin(), words.rend()));
   } catch (const CLI::CallForHelp&) {
-    return {std::nullopt, run.parsed() ? run.help() : app.help()};
+    return {std::nullopt, app.help()};
   } catch (const CLI::CallForVersion& version) {
     return {std::nullopt, std::string(version.what()) + "\n"};
   } catch (const CLI::ParseError& error) {

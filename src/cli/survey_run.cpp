@@ -247,10 +247,10 @@ class SurveyRun {
     IgnoreScores(form, options_.Selection->IgnoreTA);
     SelectionProgress observer(progress_);
     record_.Selection = SelectDesigns(form, state_, options_.Selection->Limited, dialogs_, observer);
-    const SelectionSummary summary = SummariseScores(*record_.Selection);
-    progress_.Step("Selection",
-                   Count(CombinationsOf(*record_.Selection).size(), "design") + " scored by Opt-Criteria");
-    progress_.ScoreTable(*record_.Selection);
+    const SelectionScores& scores = record_.Selection.value();
+    const SelectionSummary summary = SummariseScores(scores);
+    progress_.Step("Selection", Count(CombinationsOf(scores).size(), "design") + " scored by Opt-Criteria");
+    progress_.ScoreTable(scores);
     if (summary.Best) {
       progress_.Step("", summary.lblBest);
       progress_.Step("", summary.lblAccpt);
@@ -288,7 +288,7 @@ class SurveyRun {
     ChooseSettings(form, option);
     RunObserver unwatched;
     RunDesign(form, state_, dialogs_, unwatched);
-    SavedDesign saved{state_.DesignCount + 1, *form.Finished};
+    SavedDesign saved{state_.DesignCount + 1, form.Finished.value()};
     const auto files = SaveDesign(form, state_, dialogs_, SystemDateTime);
     record_.Files.insert(record_.Files.end(), files.begin(), files.end());
     ShowDesign(saved);

@@ -4,6 +4,7 @@
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <vector>
 
@@ -113,10 +114,7 @@ SelectionSummary SummariseScores(const SelectionScores& scores)
     summary.lblBest = "No combination of strata and D_Factor has a usable score.";
     return summary;
   }
-  summary.Limit = summary.BestScore * Tolerance;
-  if (summary.Limit < AlwaysAcceptable) {
-    summary.Limit = AlwaysAcceptable;
-  }
+  summary.Limit = std::max(summary.BestScore * Tolerance, AlwaysAcceptable);
   for (const Combination& combination : combinations) {
     summary.Acceptable += IsAcceptable(summary, ScoreOf(scores, combination)) ? 1 : 0;
   }

@@ -4,6 +4,7 @@
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
 
+#include <algorithm>
 #include <cmath>
 #include <string>
 
@@ -59,10 +60,7 @@ double FindDMinVal(const TargetSites& sites, std::size_t point, std::size_t n)
     }
     const double dx = site.X - other.X;
     const double dy = site.Y - other.Y;
-    const double distance = std::sqrt(dx * dx + dy * dy);
-    if (distance < best) {
-      best = distance;
-    }
+    best = std::min(best, std::sqrt(dx * dx + dy * dy));
   }
   return best;
 }

@@ -2,6 +2,7 @@
 
 #include "design/design_optimisation.h"
 
+#include <algorithm>
 #include <cmath>
 
 namespace veln {
@@ -21,8 +22,7 @@ double CentralLimit(int surveySize)
   constexpr double Scale = 125;
   constexpr double Lowest = 0.25;
   constexpr double Highest = 1;
-  const double limit = Scale / surveySize;
-  return limit > Highest ? Highest : limit < Lowest ? Lowest : limit;
+  return std::clamp(Scale / surveySize, Lowest, Highest);
 }
 
 void FindSupportSite(const SurveyState& state, TargetSites& sites, std::size_t point, std::size_t n)

@@ -96,10 +96,10 @@ void ChildWindow::Place()
   if (restoreGeometry(program_.Settings().value(GeometryKey(*this)).toByteArray())) {
     return;  // kept on a screen by the toolkit
   }
-  const QRect screen = (origin_ ? origin_->screen() : this->screen())->availableGeometry();
+  const QRect screen = (origin_ != nullptr ? origin_->screen() : this->screen())->availableGeometry();
   ensurePolished();
   resize(sizeHint().expandedTo(minimumSizeHint()).boundedTo(screen.size()));
-  if (origin_) {
+  if (origin_ != nullptr) {
     const QPoint corner = origin_->pos() + offset_;
     const QPoint last = screen.bottomRight() - QPoint(frameGeometry().width(), frameGeometry().height());
     move(qMax(screen.left(), qMin(corner.x(), last.x())), qMax(screen.top(), qMin(corner.y(), last.y())));

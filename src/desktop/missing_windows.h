@@ -7,7 +7,6 @@
 namespace veln {
 
 /// Entries of the main menu whose windows are not there yet; they stay disabled whatever the workflow says.
-inline constexpr std::array<MenuEntry, 4> EntriesOfMissingWindows = {
-    MenuEntry::mnuSG, MenuEntry::mnuSRS, MenuEntry::mnuMask, MenuEntry::mnuSHowMap};
+inline constexpr std::array<MenuEntry, 2> EntriesOfMissingWindows = {MenuEntry::mnuSG, MenuEntry::mnuSHowMap};
 
 }  // namespace veln

@@ -68,7 +68,7 @@ class Program {
   Window* ShowWith(Make make);
   /// The window of that class if it is open, or null.
   template <class Window>
-  Window* Find() const
+  [[nodiscard]] Window* Find() const
   {
     return dynamic_cast<Window*>(FindWindow(Window::Name));
   }

@@ -6,7 +6,7 @@
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QHeaderView>
-#include <QShortcut>
+#include <QKeyEvent>
 #include <QStyledItemDelegate>
 #include <QTableWidget>
 
@@ -85,11 +85,27 @@ void CopyRows(const QTableWidget& widget)
   QGuiApplication::clipboard()->setText(TabSeparated(table));
 }
 
+/// Copies rows, not cells, by the key for it.
+class CopyableTable : public QTableWidget {
+ public:
+  using QTableWidget::QTableWidget;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override
+  {
+    if (event->matches(QKeySequence::Copy)) {
+      CopyRows(*this);
+    } else {
+      QTableWidget::keyPressEvent(event);
+    }
+  }
+};
+
 }  // namespace
 
 QTableWidget* MakeTextTable(QWidget* parent, const char* name, const TextTable& table)
 {
-  auto* widget = new QTableWidget(parent);
+  auto* widget = new CopyableTable(parent);
   widget->setObjectName(name);
   FillTextTable(*widget, table);
   widget->setItemDelegate(new DecimalAligner(widget));
@@ -102,9 +118,6 @@ QTableWidget* MakeTextTable(QWidget* parent, const char* name, const TextTable& 
   widget->horizontalHeader()->setStretchLastSection(true);
   widget->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
   widget->setSortingEnabled(true);
-  auto* copy = new QShortcut(QKeySequence(QKeySequence::Copy), widget);
-  copy->setContext(Qt::WidgetWithChildrenShortcut);
-  QObject::connect(copy, &QShortcut::activated, widget, [widget] { CopyRows(*widget); });
   return widget;
 }
 

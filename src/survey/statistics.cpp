@@ -30,12 +30,8 @@ Limits MinMax(std::span<const double> series)
 {
   Limits limits{Sentinel, -Sentinel};
   for (const double value : series) {
-    if (value < limits.Minimum) {
-      limits.Minimum = value;
-    }
-    if (value > limits.Maximum) {
-      limits.Maximum = value;
-    }
+    limits.Minimum = std::min(limits.Minimum, value);
+    limits.Maximum = std::max(limits.Maximum, value);
   }
   return limits;
 }

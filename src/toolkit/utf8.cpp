@@ -6,6 +6,15 @@ namespace veln {
 
 namespace {
 
+/// The bytes of a character of more than one byte, as its first byte tells.
+std::size_t LengthByFirst(unsigned char first)
+{
+  if (first >= 0xF0) {
+    return 4;
+  }
+  return first >= 0xE0 ? 3 : 2;
+}
+
 /// The length in bytes of the well-formed character at the start of `text`, 0 if there is none.
 std::size_t CharacterLength(std::string_view text)
 {
@@ -13,7 +22,7 @@ std::size_t CharacterLength(std::string_view text)
   if (first < 0x80) {
     return 1;
   }
-  const std::size_t length = first >= 0xF0 ? 4 : first >= 0xE0 ? 3 : 2;
+  const std::size_t length = LengthByFirst(first);
   if (first < 0xC2 || first > 0xF4 || text.size() < length) {
     return 0;
   }

@@ -13,6 +13,7 @@
 #include <QLineEdit>
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QSettings>
 #include <QTest>
 #include <gtest/gtest.h>
@@ -22,6 +23,7 @@
 #include <stdexcept>
 #include <string>
 #include <utility>
+#include <vector>
 
 namespace veln {
 
@@ -41,8 +43,12 @@ class DesktopTest : public testing::Test {
 
   void TearDown() override
   {
+    std::vector<QPointer<QWidget>> windows;  // a window takes its menus with it
     for (QWidget* window : QApplication::topLevelWidgets()) {
-      if (window->parent() == nullptr && window->objectName() != "frmMain") {
+      windows.emplace_back(window);
+    }
+    for (const QPointer<QWidget>& window : windows) {
+      if (window && window->parent() == nullptr && window->objectName() != "frmMain") {
         delete window;
       }
     }

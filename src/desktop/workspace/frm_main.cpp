@@ -55,8 +55,11 @@ class DropPlace : public QFrame {
  protected:
   void paintEvent(QPaintEvent* /*event*/) override
   {
+    constexpr float Faintness = 0.5F;
     QPainter painter(this);
-    painter.setPen(QPen(palette().color(QPalette::PlaceholderText), 1, Qt::DashLine));
+    QColor faint = palette().color(QPalette::WindowText);
+    faint.setAlphaF(Faintness);
+    painter.setPen(QPen(faint, 1, Qt::DashLine));
     painter.drawRect(rect().adjusted(0, 0, -1, -1));
   }
 };

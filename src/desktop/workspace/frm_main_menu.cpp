@@ -1,4 +1,6 @@
 #include "desktop/child_window.h"
+#include "desktop/design/frm_mask.h"
+#include "desktop/design/frm_srs.h"
 #include "desktop/help_request.h"
 #include "desktop/signal/frm_sig_decorr.h"
 #include "desktop/signal/frm_sig_val.h"
@@ -44,8 +46,8 @@ const std::array<MainMenuLine, 24> Lines = {{
     {"mnuSigD", "mnuA", "Signal &Decorrelation", mnuSigD, Open<frmSigDecorr>},
     {"mnuSigV", "mnuA", "Signal &Validation", mnuSigV, Open<frmSigVal>},
     {"mnuD", nullptr, "&Design"},
-    {"mnuSRS", "mnuD", "&Calculate SRS Sample Design", mnuSRS},
-    {"mnuMask", "mnuD", "&Manual Sample Site Selection", mnuMask},
+    {"mnuSRS", "mnuD", "&Calculate SRS Sample Design", mnuSRS, Open<frmSRS>},
+    {"mnuMask", "mnuD", "&Manual Sample Site Selection", mnuMask, Open<frmMask>},
     {"mnuSHowMap", "mnuD", "&Display Sample Site Map", mnuSHowMap},
     {"mnuHelp", nullptr, "&Help"},
     {"mnuAbout", "mnuHelp", "&About VELN-QTRD ", {}, Open<frmAbout>},

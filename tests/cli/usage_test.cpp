@@ -1,0 +1,200 @@
+#include "cli/veln_session.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+namespace veln {
+namespace {
+
+using testing::AllOf;
+using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::StartsWith;
+
+std::string Repeated(const std::string& text, int count)
+{
+  std::string all;
+  for (int i = 0; i < count; ++i) {
+    all += text;
+  }
+  return all;
+}
+
+using Arguments = std::vector<std::string>;
+
+/// What is wrong whatever the survey, behind "veln run survey.txt".
+const std::vector<Arguments>& WrongOptions()
+{
+  static const std::vector<Arguments> wrong = {
+      {"--bogus"},
+      {"second.txt"},
+      {"--root"},
+      {"--json=maybe"},
+      {"--field", "abcd", "--field", "efgh"},
+      {"--plot", "grid=a.svg"},
+      {"--type", "lattice"},
+      {"--units", "S/m"},
+      {"--convert-units", "mS/m"},
+      {"--units", "dS/m", "--convert-units", "dS/m"},
+      {"--translate", "rotate=181"},
+      {"--translate", "rotate=1.5"},
+      {"--translate", ""},
+      {"--masking-level", "2.99"},
+      {"--outlier-level", "6.01"},
+      {"--masking-level", "3.505"},
+      {"--masking-level="},
+      {"--masking-level", "nan"},
+      {"--delete-outliers", "-1"},
+      {"--delete-outliers", "some"},
+      {"--edge-buffer", "ends"},
+      {"--transition"},
+      {"--type", "transect", "--transition-file"},
+      {"--type", "transect", "--edge-buffer", "both"},
+      {"--reduce", "40"},
+      {"--ads", "half"},
+      {"--ads", "full,"},
+      {"--type", "transect", "--ads", "full,ignore-ta"},
+      {"--design", "7"},
+      {"--design", "[12,6]"},
+      {"--design", "12,"},
+      {"--design", "12,d=0.79"},
+      {"--design", "12,d=1.21"},
+      {"--design", "12,d=1.005"},
+      {"--design", "12,stratum=0"},
+      {"--design", "12,stratum=10"},
+      {"--type", "transect", "--design", "12,ignore-ta"},
+      {"--design", "6", "--design", "6", "--design", "6", "--design", "6", "--design", "6", "--design", "6"},
+      {"--manual", ""},
+      {"--manual", "1,,2"},
+      {"--manual", "-3"},
+      {"--field", "abc"},
+      {"--field", "abcde"},
+      {"--field", "ab_1"},
+      {"--field", "abc\xc3\xa4"},
+      {"--project", ""},
+      {"--project", ".."},
+      {"--project", "two words"},
+      {"--project", "a/b"},
+      {"--label2", "12345678901"},
+      {"--label1", Repeated("\xc3\xa4", 11)},
+      {"--label1", "EM\xff"},
+      {"--label1", "EM\nv"},
+      {"--description", Repeated("d", 61)},
+      {"--description", "one\rtwo"},
+      {"--root", "one\ntwo"},
+      {"--project", "one\ntwo"}};
+  return wrong;
+}
+
+TEST(CommandLine, ThatIsWrongEndsWithTwoAndMakesNothing)
+{
+  VelnSession session;
+  WriteText(session.Root() / "survey.txt", GridText(60));
+  for (const Arguments& options : WrongOptions()) {
+    Arguments arguments = {"run", "survey.txt"};
+    arguments.insert(arguments.end(), options.begin(), options.end());
+    const ProcessResult result = session.Veln(arguments);
+    SCOPED_TRACE(testing::PrintToString(options));
+    EXPECT_EQ(result.Status, 2);
+    EXPECT_EQ(result.Out, "");
+    EXPECT_NE(result.Err, "");
+    EXPECT_THAT(ListFiles(session.Root()), ElementsAre("survey.txt"));
+  }
+}
+
+TEST(CommandLine, NeedsASubcommandAndASurveyFile)
+{
+  VelnSession session;
+  for (const Arguments& arguments :
+       {Arguments{}, {"run"}, {"walk"}, {"survey.txt"}, {"run", "--label1=", "--quiet"}}) {
+    EXPECT_EQ(session.Veln(arguments).Status, 2) << testing::PrintToString(arguments);
+  }
+  EXPECT_EQ(session.Veln({"run", "a\nb.txt"}).Err, "SURVEY_FILE: a line break can not stand in it.\n");
+  EXPECT_THAT(ListFiles(session.Root()), ElementsAre());
+}
+
+TEST(CommandLine, IsRefusedBeforeTheSurveyIsLookedFor)
+{
+  VelnSession session;
+  const ProcessResult result = session.Veln({"run", "nowhere.txt", "--masking-level", "4.51"});
+  EXPECT_EQ(result.Status, 2);
+  EXPECT_EQ(result.Err, "--masking-level: the masking level can not be higher than the outlier level.\n");
+}
+
+TEST(CommandLine, ExplainsItselfOnStandardOutput)
+{
+  VelnSession session;
+  const ProcessResult program = session.Veln({"--help"});
+  EXPECT_THAT(program.Out, AllOf(HasSubstr("Usage: veln [OPTIONS] SUBCOMMAND"), HasSubstr("run")));
+  const ProcessResult run = session.Veln({"run", "--help"});
+  EXPECT_THAT(run.Out, AllOf(HasSubstr("Usage: veln run [OPTIONS]"), HasSubstr("--transition-file"),
+                             HasSubstr("--no-export")));
+  const ProcessResult version = session.Veln({"--version"});
+  EXPECT_EQ(version.Out, "veln 2.35R\n");
+  EXPECT_EQ(program.Status + run.Status + version.Status, 0);
+  EXPECT_EQ(program.Err + run.Err + version.Err, "");
+}
+
+/// The description that stands in the information file after a run with these options.
+std::string DescriptionAfter(const Arguments& options)
+{
+  VelnSession session;
+  const ProcessResult result = session.Run(GridText(60), options);
+  EXPECT_EQ(result.Status, 0) << result.Err;
+  return SplitLines(ReadText(session.Output("info.txt"))).at(7);
+}
+
+TEST(OptionValue, IsTakenAsItStands)
+{
+  EXPECT_EQ(DescriptionAfter({"--description", "[a,b]"}), "Field Desc:   [a,b]");
+  EXPECT_EQ(DescriptionAfter({"--description", "--root"}), "Field Desc:   --root");
+  EXPECT_EQ(DescriptionAfter({"--description", "--root="}), "Field Desc:   --root=");
+  EXPECT_EQ(DescriptionAfter({"--description=-a=b "}), "Field Desc:   -a=b ");
+  EXPECT_EQ(DescriptionAfter({"--description=", "--quiet"}), "Field Desc:   ");
+  EXPECT_EQ(DescriptionAfter({"--description", Repeated("\xc3\xa9", 60)}),
+            "Field Desc:   " + Repeated("\xc3\xa9", 60));
+}
+
+TEST(OptionValue, AtTheEndsOfItsRangePasses)
+{
+  VelnSession session;
+  const ProcessResult result =
+      session.Run(GridText(400), {"--masking-level", "3", "--outlier-level", "6.00",
+                                  "--translate=rotate=-180", "--design=12,d=0.8", "--design",
+                                  "5,stratum=2,d=1.20", "--label1", Repeated("\xc3\xa4", 10), "--label2", "",
+                                  "--field", "09zZ", "--project", "._", "--delete-outliers", "99999999999"});
+  EXPECT_EQ(result.Status, 0) << result.Err;
+  EXPECT_THAT(ListFiles(session.Root() / "data/._"), testing::Contains("09zZrsd2.txt"));
+}
+
+TEST(ProjectName, OfADirectoryThatStandsIsTakenAsItIs)
+{
+  VelnSession session;
+  std::filesystem::create_directories(session.Root() / "data/two words");
+  EXPECT_EQ(session.Run(GridText(60), {"--project", "two words"}).Status, 0);
+}
+
+TEST(FieldInUse, IsAskedBeforeTheSurveyIsRead)
+{
+  VelnSession session;
+  WriteText(session.Output("tstd.std"), "");
+  EXPECT_EQ(session.Run(GridText(60)).Status, 0) << "only the information file tells of a field in use";
+  const ProcessResult inUse = session.Veln({"run", "nowhere.txt", "--json"});
+  EXPECT_EQ(inUse.Status, 3);
+  EXPECT_EQ(inUse.Out, "");
+  EXPECT_EQ(inUse.Err,
+            "Warning!  The 4-character Field ID code you have specified is already in use\n"
+            "in the current data Project.  If you keep this code, you will automatically\n"
+            "overwrite one or more existing VELN-QTRD output data and/or text files.\n"
+            "\n"
+            "Are you sure that you want to still use this code and overwrite these files?\n");
+  const ProcessResult overwritten = session.Run(GridText(60), {"--overwrite", "--quiet"});
+  EXPECT_EQ(overwritten.Status, 0);
+  EXPECT_EQ(overwritten.Out + overwritten.Err, "");
+}
+
+}  // namespace
+}  // namespace veln

@@ -1,0 +1,195 @@
+// What holds of every window: names for a screen reader, the way through by Tab, and keys without a clash.
+
+#include "desktop/desktop_fixture.h"
+#include "desktop/signal/frm_list.h"
+#include "desktop/signal/frm_sig_decorr.h"
+#include "desktop/signal/frm_sig_val.h"
+#include "desktop/survey/frm_basic_stats.h"
+#include "desktop/survey/frm_out_fd.h"
+#include "desktop/survey/frm_structure.h"
+#include "desktop/workspace/frm_about.h"
+#include "desktop/workspace/frm_file_io.h"
+#include "desktop/workspace/frm_help.h"
+#include "desktop/workspace/frm_project.h"
+#include "support/surveys.h"
+
+#include <QAbstractButton>
+#include <QAccessible>
+#include <QHeaderView>
+#include <QRadioButton>
+#include <gmock/gmock.h>
+
+#include <algorithm>
+#include <map>
+#include <set>
+
+namespace veln {
+namespace {
+
+RawSurvey SurveyWithOutlier()
+{
+  RawSurvey survey = TransectSurvey(5, 20);
+  survey.Signal1[7] = 2000;
+  return survey;
+}
+
+/// A window and the record in which it opens.
+struct Opening {
+  const char* Name;
+  SurveyState State;
+  std::function<void(Program&)> Show;
+};
+
+std::vector<Opening> Openings()
+{
+  const SurveyState imported = ImportedSurvey(SurveyWithOutlier());
+  const SurveyState decorrelated = DecorrelatedSurvey(SurveyWithOutlier());
+  SurveyState saved = AcceptedSurvey(SurveyWithOutlier());
+  saved.ManualDesignDone = true;
+  return {
+      {"frmProject", {}, [](Program& program) { program.Show<frmProject>(); }},
+      {"frmFileIO", {}, [](Program& program) { program.Show<frmFileIO>(); }},
+      {"frmAbout", {}, [](Program& program) { program.Show<frmAbout>(); }},
+      {"frmHelp", {}, [](Program& program) { program.Show<frmHelp>(); }},
+      {"frmStructure", NamedState(),
+       [](Program& program) { program.Show<frmStructure>()->SetSurveyType(true); }},
+      {"frmBasicStats", imported, [](Program& program) { program.Show<frmBasicStats>(); }},
+      {"frmSigDecorr", imported, [](Program& program) { program.Show<frmSigDecorr>(); }},
+      {"frmSigVal", decorrelated, [](Program& program) { program.Show<frmSigVal>(); }},
+      {"frmList", decorrelated, [](Program& program) { program.Show<frmList>(); }},
+      {"frmOutFD", saved, [](Program& program) { program.Show<frmOutFD>(); }},
+  };
+}
+
+class AllWindows : public DesktopTest {
+ protected:
+  /// Opens one window after the other, with every choice in it made that shows more, and walks it.
+  void Walk(const std::function<void(QWidget&)>& look)
+  {
+    std::filesystem::create_directories(Directory / "data" / "farm");
+    for (const Opening& opening : Openings()) {
+      SCOPED_TRACE(opening.Name);
+      Set(opening.State);
+      opening.Show(Shared);
+      Settle();
+      ASSERT_NE(Window(opening.Name), nullptr);
+      ASSERT_TRUE(QTest::qWaitFor([&opening] { return !Stops(*Window(opening.Name)).empty(); }));
+      look(*Window(opening.Name));
+      for (const char* more : {"Command5", "Check2", "Option2", "ChkEB1"}) {
+        auto* button = Window(opening.Name)->findChild<QAbstractButton*>(more);
+        if (button != nullptr) {
+          button->click();
+        }
+      }
+      look(*Window(opening.Name));
+      delete Window(opening.Name);
+    }
+  }
+
+  /// Whether a widget has the focus, or arrows lead to it from there: the options of a group are one stop.
+  static bool IsReachedFrom(const QWidget& widget, const QWidget& focused)
+  {
+    const auto isOption = [](const QWidget& candidate) {
+      const auto* option = dynamic_cast<const QRadioButton*>(&candidate);
+      return option != nullptr && option->autoExclusive();
+    };
+    return &widget == &focused ||
+           (isOption(widget) && isOption(focused) && widget.parentWidget() == focused.parentWidget());
+  }
+
+  /// The controls that can have the focus by Tab.
+  static std::set<QWidget*> Stops(const QWidget& window)
+  {
+    std::set<QWidget*> stops;
+    for (auto* widget : window.findChildren<QWidget*>()) {
+      const bool stop = (widget->focusPolicy() & Qt::TabFocus) != 0 && widget->focusProxy() == nullptr;
+      if (stop && widget->isVisible() && widget->isEnabled() && widget->window() == &window) {
+        stops.insert(widget);
+      }
+    }
+    return stops;
+  }
+
+  static std::string NameOf(const QWidget& widget)
+  {
+    return widget.objectName().toStdString() + " (" + widget.metaObject()->className() + ")";
+  }
+};
+
+TEST_F(AllWindows, EveryControlHasAnAccessibleName)
+{
+  Walk([](QWidget& window) {
+    for (QWidget* stop : Stops(window)) {
+      QAccessibleInterface* face = QAccessible::queryAccessibleInterface(stop);
+      ASSERT_NE(face, nullptr);
+      EXPECT_NE(face->text(QAccessible::Name).trimmed(), "") << NameOf(*stop);
+    }
+    for (auto* button : window.findChildren<QAbstractButton*>()) {
+      const QString caption = QString(button->text()).remove('&').trimmed();
+      if (!caption.isEmpty() && !button->objectName().isEmpty()) {
+        EXPECT_EQ(button->accessibleName(), caption);
+      }
+    }
+  });
+}
+
+TEST_F(AllWindows, TabReachesEveryControl)
+{
+  Walk([](QWidget& window) {
+    std::set<QWidget*> left = Stops(window);
+    const std::size_t steps = 2 * left.size() + 2;
+    (*left.begin())->setFocus();
+    for (std::size_t i = 0; i < steps; ++i) {
+      std::erase_if(left, [&window](QWidget* stop) { return IsReachedFrom(*stop, *window.focusWidget()); });
+      QTest::keyClick(window.focusWidget(), Qt::Key_Tab);
+    }
+    for (const QWidget* widget : left) {
+      ADD_FAILURE() << "not reached: " << NameOf(*widget);
+    }
+  });
+}
+
+TEST_F(AllWindows, EveryButtonHasAKeyOfItsOwn)
+{
+  Walk([](QWidget& window) {
+    std::map<QString, std::string> keys;
+    const auto add = [&keys](const QString& caption, const QWidget& widget) {
+      const QString key = QKeySequence::mnemonic(caption).toString();
+      if (!key.isEmpty()) {
+        EXPECT_TRUE(keys.emplace(key, NameOf(widget)).second)
+            << key.toStdString() << " is the key of " << keys[key] << " and of " << NameOf(widget);
+      }
+      return !key.isEmpty();
+    };
+    for (const auto* button : window.findChildren<QAbstractButton*>()) {
+      if (!button->objectName().isEmpty() && !button->objectName().startsWith("qt_")) {
+        EXPECT_TRUE(add(button->text(), *button)) << NameOf(*button) << " has no key";
+      }
+    }
+    for (const auto* label : window.findChildren<QLabel*>()) {
+      if (label->buddy() != nullptr) {
+        add(label->text(), *label);
+      }
+    }
+  });
+}
+
+TEST_F(AllWindows, NothingIsCutOffAtTheFirstOpening)
+{
+  Walk([](QWidget& window) {
+    window.layout()->activate();
+    for (const auto* label : window.findChildren<QLabel*>()) {
+      if (label->isVisible() && label->wordWrap() && !label->text().isEmpty()) {
+        EXPECT_GE(label->height(), label->heightForWidth(label->width())) << NameOf(*label);
+      }
+    }
+    for (const auto* button : window.findChildren<QAbstractButton*>()) {
+      if (button->isVisible() && !button->objectName().isEmpty()) {
+        EXPECT_GE(button->width(), button->minimumSizeHint().width()) << NameOf(*button);
+      }
+    }
+  });
+}
+
+}  // namespace
+}  // namespace veln

@@ -1,0 +1,252 @@
+// Windows opened, used and closed at random, as far as the menus allow: after every step they agree with the
+// record.
+
+#include "desktop/child_window.h"
+#include "desktop/desktop_fixture.h"
+#include "desktop/missing_windows.h"
+#include "desktop/signal/frm_sig_decorr.h"
+#include "desktop/survey/frm_structure.h"
+#include "support/surveys.h"
+
+#include <QAbstractButton>
+#include <QScrollBar>
+#include <QTableWidget>
+
+#include <algorithm>
+
+namespace veln {
+namespace {
+
+/// Answers as chance has it.
+class RandomDialogs : public Dialogs {
+ public:
+  explicit RandomDialogs(SteadyRandom& random) : random_(random) {}
+
+  void Inform(const std::string& /*text*/) override {}
+  void Warn(const std::string& /*text*/) override {}
+  void Beep() override {}
+  void Shell(const std::vector<std::string>& /*command*/) override {}
+  bool Ask(const std::string& /*text*/) override { return random_.Next() < 0.5; }
+  std::optional<std::filesystem::path> ShowOpen(const FileQuestion& question) override
+  {
+    if (random_.Next() < 0.3) {
+      return std::nullopt;
+    }
+    return question.InitDir / (random_.Next() < 0.5 ? "grid.txt" : "transect.txt");
+  }
+
+ private:
+  SteadyRandom& random_;
+};
+
+void Settle()
+{
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QCoreApplication::processEvents();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
+
+class RandomWalk : public testing::TestWithParam<std::uint64_t> {
+ protected:
+  void SetUp() override
+  {
+    RawSurvey grid = GridSurvey(10, 10);
+    RawSurvey transect = TransectSurvey(5, 20);
+    grid.Signal1[3] = transect.Signal1[3] = 900;
+    WriteText(Directory / "grid.txt", RawFileText(grid, LayoutOf(grid)));
+    WriteText(Directory / "transect.txt", RawFileText(transect, LayoutOf(transect)));
+    std::filesystem::create_directories(Directory / "data" / "demo");
+    Shared.Quit = [this] { ended_ = true; };
+    Shared.ChoosePrinter = [](QPrinter&, QWidget*) { return false; };
+    StartAfresh();
+  }
+
+  void TearDown() override
+  {
+    main_.reset();
+    Settle();
+  }
+
+  /// One thing that a user may do now.
+  void Step()
+  {
+    const double kind = Random.Next();
+    std::vector<ChildWindow*> windows = OpenWindows();
+    if (kind < 0.01) {
+      main_->close();
+    } else if (windows.empty() || kind < 0.3) {
+      ChooseEntry();
+    } else if (kind < 0.34) {
+      QTest::keyClick(&*Any(windows), Random.Next() < 0.5 ? Qt::Key_Escape : Qt::Key_F1);
+    } else if (kind < 0.38) {
+      Any(windows)->close();
+    } else if (kind < 0.7) {
+      GoOn(*Any(windows));
+    } else {
+      ClickSomething(*Any(windows));
+    }
+    Settle();
+    if (ended_ || Shared.State.Menu.IsEnabled(MenuEntry::mnuVPOF)) {
+      StartAfresh();
+    }
+  }
+
+  void ExpectAgreement() const
+  {
+    const SurveyState& state = Shared.State;
+    for (const auto& [name, entry] : Entries) {
+      const bool missing = std::ranges::count(EntriesOfMissingWindows, entry) != 0;
+      EXPECT_EQ(main_->findChild<QAction*>(name)->isEnabled(), state.Menu.IsEnabled(entry) && !missing)
+          << name;
+    }
+    const std::vector<ChildWindow*> windows = OpenWindows();
+    for (const ChildWindow* window : windows) {
+      const std::string name = window->objectName().toStdString();
+      EXPECT_TRUE(!window->Gate() || state.Menu.IsEnabled(*window->Gate())) << name;
+      EXPECT_EQ(std::ranges::count_if(
+                    windows,
+                    [&name](const ChildWindow* other) { return other->objectName().toStdString() == name; }),
+                1)
+          << name;
+    }
+    if (const auto* structure = Shared.Find<frmStructure>()) {
+      const auto checked = [structure](const char* name) {
+        return structure->findChild<QAbstractButton*>(name)->isChecked();
+      };
+      EXPECT_NE(checked("Check3"), checked("Check4"));
+      EXPECT_NE(checked("Option1"), checked("Option2"));
+      EXPECT_EQ(structure->findChild<QWidget*>("Text2")->isVisible(), checked("Check2"));
+    }
+    if (const auto* decorrelation = Shared.Find<frmSigDecorr>()) {
+      EXPECT_LE(decorrelation->findChild<QScrollBar*>("HScroll1")->value(),
+                decorrelation->findChild<QScrollBar*>("HScroll2")->value());
+      EXPECT_TRUE(!decorrelation->findChild<QWidget*>("Frame2")->isVisible() || state.DecorrDone);
+    }
+    EXPECT_EQ(state.DecorrDone, state.Decorrelation.Visible);
+    EXPECT_EQ(state.SiteStatus.size(), static_cast<std::size_t>(state.SurveySize));
+  }
+
+  TemporaryDirectory Directory;
+  SteadyRandom Random{GetParam()};
+  RandomDialogs Answers{Random};
+  QSettings Places{QString::fromStdString((Directory / "places.ini").string()), QSettings::IniFormat};
+  Program Shared{Answers, [] { return std::string("2026-11-22 14:05:09"); }, Places};
+  int Accepted = 0;  ///< surveys that were brought to their acceptance
+
+ private:
+  static constexpr std::array<std::pair<const char*, MenuEntry>, 10> Entries = {
+      {{"mnuProject", MenuEntry::mnuProject},
+       {"mnuIGSF", MenuEntry::mnuImport},
+       {"mnuITSF", MenuEntry::mnuImport},
+       {"mnuVPOF", MenuEntry::mnuVPOF},
+       {"mnuSG", MenuEntry::mnuSG},
+       {"mnuStats", MenuEntry::mnuStats},
+       {"mnuSigD", MenuEntry::mnuSigD},
+       {"mnuSigV", MenuEntry::mnuSigV},
+       {"mnuSRS", MenuEntry::mnuSRS},
+       {"mnuMask", MenuEntry::mnuMask}}};
+
+  void StartAfresh()
+  {
+    Accepted += Shared.State.Menu.IsEnabled(MenuEntry::mnuVPOF) ? 1 : 0;
+    main_.reset();
+    Settle();
+    ended_ = false;
+    Shared.State = SurveyState();
+    Shared.State.ProgramDir = Directory.Path();
+    Shared.State.InputFilePath = Directory.Path().string();
+    main_ = std::make_unique<frmMain>(Shared);
+    main_->show();
+    Settle();
+  }
+
+  template <class T>
+  T Any(const std::vector<T>& choices)
+  {
+    return choices[static_cast<std::size_t>(Random.Next() * static_cast<double>(choices.size()))];
+  }
+
+  static std::vector<ChildWindow*> OpenWindows()
+  {
+    std::vector<ChildWindow*> windows;
+    for (QWidget* widget : QApplication::topLevelWidgets()) {
+      auto* window = dynamic_cast<ChildWindow*>(widget);
+      if (window != nullptr && window->isVisible()) {
+        windows.push_back(window);
+      }
+    }
+    std::ranges::sort(windows, {}, [](const ChildWindow* window) { return window->objectName(); });
+    return windows;
+  }
+
+  void ChooseEntry()
+  {
+    std::vector<QAction*> open;
+    for (const char* name : {"mnuProject", "mnuIGSF", "mnuITSF", "mnuStats", "mnuSigD", "mnuSigV", "mnuAbout",
+                             "mnuEIC", "mnuMH1"}) {
+      auto* entry = main_->findChild<QAction*>(name);
+      if (entry->isEnabled()) {
+        open.push_back(entry);
+      }
+    }
+    Any(open)->trigger();
+  }
+
+  void ClickSomething(const ChildWindow& window)
+  {
+    std::vector<QAbstractButton*> buttons;
+    for (auto* button : window.findChildren<QAbstractButton*>()) {
+      if (button->isVisible() && button->isEnabled() && !button->objectName().isEmpty()) {
+        buttons.push_back(button);
+      }
+    }
+    if (!buttons.empty()) {
+      Any(buttons)->click();
+    }
+    for (auto* bar : window.findChildren<QScrollBar*>()) {
+      if (bar->objectName().startsWith("HScroll")) {
+        QTest::keyClick(bar, Any(std::vector{Qt::Key_Left, Qt::Key_Right, Qt::Key_PageUp, Qt::Key_End}));
+      }
+    }
+  }
+
+  /// Fills the window in as its purpose wants it, and lets its main button follow.
+  void GoOn(ChildWindow& window)
+  {
+    const std::string name = window.objectName().toStdString();
+    if (name == "frmProject") {
+      auto* list = window.findChild<QWidget*>("List1");
+      QTest::keyClick(list, Qt::Key_Home);
+      QTest::keyClick(list, Qt::Key_Space);
+      auto* code = window.findChild<QLineEdit*>("Text3");
+      code->selectAll();
+      QTest::keyClicks(code, "ab12");
+    } else if (name == "frmStructure") {
+      const bool transect = window.findChild<QWidget*>("Label5")->isVisible();
+      const auto file = Directory / (transect ? "transect.txt" : "grid.txt");
+      window.findChild<QLineEdit*>("Text3")->setText(QString::fromStdString(file.string()));
+      window.findChild<QAbstractButton*>("Check2")->setChecked(true);
+      window.findChild<QAbstractButton*>("Check1")->setChecked(false);
+    }
+    QTest::keyClick(&window, Qt::Key_Return);
+  }
+
+  std::unique_ptr<frmMain> main_;
+  bool ended_ = false;
+};
+
+TEST_P(RandomWalk, WindowsAgreeWithTheRecord)
+{
+  constexpr int Steps = 250;
+  for (int step = 0; step < Steps && !HasFailure(); ++step) {
+    SCOPED_TRACE("step " + std::to_string(step));
+    Step();
+    ExpectAgreement();
+  }
+  EXPECT_GE(Accepted, 1) << "the walk is to come far";
+}
+
+INSTANTIATE_TEST_SUITE_P(Seeds, RandomWalk, testing::Values(1, 2));
+
+}  // namespace
+}  // namespace veln
