@@ -68,7 +68,7 @@ void FilteredEdit::keyPressEvent(QKeyEvent* event)
 
 void FilteredEdit::inputMethodEvent(QInputMethodEvent* event)
 {
-  const QString composed = event->commitString();
+  const QString& composed = event->commitString();
   QInputMethodEvent rest(event->preeditString(), event->attributes());
   if (hasSelectedText()) {  // what is composed takes the place of the selection
     Delete([this, &rest] { QLineEdit::inputMethodEvent(&rest); });

@@ -28,7 +28,7 @@ class FilteredEdit : public QLineEdit {
 
  private:
   void Enter(const QString& text);
-  void EnterCharacter(char32_t character, const QString& text);
+  void EnterCharacter(char32_t character, const QString& entered);
   void PasteText();
   void Delete(const std::function<void()>& deletion);
   void TakeOver(const QString& text);

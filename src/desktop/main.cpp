@@ -11,7 +11,7 @@
 
 int main(int argc, char** argv)
 {
-  QApplication application(argc, argv);
+  const QApplication application(argc, argv);
   QApplication::setOrganizationName("Norvane Laboratory");
   QApplication::setApplicationName("VELN-QTRD");
   QSettings settings;

@@ -61,13 +61,14 @@ void Program::EndProgram()
 void Program::Changed()
 {
   for (const auto& [name, window] : std::map(windows_)) {
-    if (window && window->Gate() && !State.Menu.IsEnabled(*window->Gate())) {
+    const auto gate = window != nullptr ? window->Gate() : std::nullopt;
+    if (gate && !State.Menu.IsEnabled(*gate)) {
       window->Unload();
     }
   }
   std::erase_if(listeners_, [](const Listener& listener) { return listener.Owner.isNull(); });
   for (const Listener& listener : std::vector(listeners_)) {
-    if (listener.Owner) {
+    if (listener.Owner != nullptr) {
       listener.Call();
     }
   }
@@ -81,13 +82,13 @@ void Program::OnChange(QObject* owner, std::function<void()> listener)
 ChildWindow* Program::FindWindow(const char* name) const
 {
   const auto found = windows_.find(name);
-  return found == windows_.end() || !found->second || found->second->Unloaded() ? nullptr
-                                                                                : found->second.data();
+  const bool open = found != windows_.end() && found->second != nullptr && !found->second->Unloaded();
+  return open ? found->second.data() : nullptr;
 }
 
 void Program::Close(const char* name)
 {
-  if (ChildWindow* window = FindWindow(name)) {
+  if (ChildWindow* window = FindWindow(name); window != nullptr) {
     window->Unload();
   }
 }

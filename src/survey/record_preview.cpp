@@ -77,7 +77,7 @@ RecordPreview PreviewRecords(std::string_view content, const RecordLayout& layou
         preview.FirstFault = {preview.Records.size() - 1, record.size(), fault};
       }
       if (fault.empty() && column == Column::Row) {
-        lastRow = *RoundToInt16(*ParseNumber(*item));
+        lastRow = RoundToInt16(ParseNumber(*item).value_or(lastRow)).value_or(0);
       }
       record.emplace_back(*item);
     }

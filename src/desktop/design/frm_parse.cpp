@@ -63,7 +63,7 @@ frmParse::frmParse(Program& program, QWidget* parent)
   connect(cancel, &QPushButton::clicked, this, [this] { WayOut(); });
   connect(invoke, &QPushButton::clicked, this, [this] {
     Program& shared = Shared();
-    if (frmSRS* design = shared.Find<frmSRS>()) {
+    if (auto* design = shared.Find<frmSRS>(); design != nullptr) {
       design->Act([&](SrsForm& srs) { veln::InvokeParsing(form_, srs, shared.Ask()); });
     }
     Unload();
@@ -73,7 +73,7 @@ frmParse::frmParse(Program& program, QWidget* parent)
 
 void frmParse::WayOut()
 {
-  if (frmSRS* design = Shared().Find<frmSRS>()) {
+  if (auto* design = Shared().Find<frmSRS>(); design != nullptr) {
     design->Act([](SrsForm& srs) { CancelParsing(srs); });
   }
   Unload();

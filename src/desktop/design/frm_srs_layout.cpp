@@ -167,7 +167,7 @@ QGroupBox* frmSRS::MakeControls()
     Act([on](SrsForm& f) { SwitchParsing(f, on); });
     if (form_.Check3) {
       Shared().Show<frmParse>();
-    } else if (frmParse* parse = Shared().Find<frmParse>()) {
+    } else if (auto* parse = Shared().Find<frmParse>(); parse != nullptr) {
       parse->Unload();
     }
   });

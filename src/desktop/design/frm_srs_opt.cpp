@@ -72,7 +72,7 @@ frmSRSOpt::frmSRSOpt(Program& program, QWidget* parent, const SelectionScores& s
   layout->addLayout(buttons);
   connect(grid_, &QTableWidget::itemSelectionChanged, this, [this] { ShowUse(); });
   connect(use_, &QPushButton::clicked, this, [this] {
-    frmSRS* design = Shared().Find<frmSRS>();
+    auto* design = Shared().Find<frmSRS>();
     if (const auto chosen = Chosen(); chosen && design != nullptr) {
       design->UseSettings(*chosen, scores_.pnum);
     }
@@ -189,7 +189,7 @@ void frmSRSOpt::SaveTable()
 
 void frmSRSOpt::ShowUse()
 {
-  const frmSRS* design = Shared().Find<frmSRS>();
+  const auto* design = Shared().Find<frmSRS>();
   use_->setEnabled(Chosen().has_value() && design != nullptr && !design->Form().Finished);
 }
 
