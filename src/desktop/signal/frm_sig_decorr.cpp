@@ -25,7 +25,7 @@ QLineEdit* MakeLevelText(QWidget* parent, const char* name, const QString& toolT
   text->setToolTip(toolTip);
   text->setReadOnly(true);
   text->setAlignment(Qt::AlignRight);
-  text->setMaximumWidth(text->fontMetrics().averageCharWidth() * Characters + 2 * LargeGap);
+  text->setFixedWidth(text->fontMetrics().averageCharWidth() * Characters + 2 * LargeGap);
   return text;
 }
 
