@@ -246,11 +246,14 @@ class SurveyRun {
     ChooseSize(form, state_, options_.Designs.empty() ? DesignSize::Standard : options_.Designs.front().Size);
     IgnoreScores(form, options_.Selection->IgnoreTA);
     SelectionProgress observer(progress_);
-    record_.Selection = SelectDesigns(form, state_, options_.Selection->Limited, dialogs_, observer);
-    const SelectionScores& scores = record_.Selection.value();
-    const SelectionSummary summary = SummariseScores(scores);
-    progress_.Step("Selection", Count(CombinationsOf(scores).size(), "design") + " scored by Opt-Criteria");
-    progress_.ScoreTable(scores);
+    const auto scores = SelectDesigns(form, state_, options_.Selection->Limited, dialogs_, observer);
+    if (!scores) {
+      return;  // nobody stops a run of the command line
+    }
+    record_.Selection = scores;
+    const SelectionSummary summary = SummariseScores(*scores);
+    progress_.Step("Selection", Count(CombinationsOf(*scores).size(), "design") + " scored by Opt-Criteria");
+    progress_.ScoreTable(*scores);
     if (summary.Best) {
       progress_.Step("", summary.lblBest);
       progress_.Step("", summary.lblAccpt);
@@ -288,7 +291,11 @@ class SurveyRun {
     ChooseSettings(form, option);
     RunObserver unwatched;
     RunDesign(form, state_, dialogs_, unwatched);
-    SavedDesign saved{state_.DesignCount + 1, form.Finished.value()};
+    const std::optional<Design> made = form.Finished;
+    if (!made) {
+      return;  // a run that did not finish has thrown
+    }
+    SavedDesign saved{state_.DesignCount + 1, *made};
     const auto files = SaveDesign(form, state_, dialogs_, SystemDateTime);
     record_.Files.insert(record_.Files.end(), files.begin(), files.end());
     ShowDesign(saved);
