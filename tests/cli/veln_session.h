@@ -98,11 +98,11 @@ inline std::string SteadyText(const std::string& text, const std::filesystem::pa
   return steady;
 }
 
-/// Ten rows of 60 sites with site numbers and two signals; site 101 reads far too high for any soil, site 202
+/// Ten rows of 62 sites with site numbers and two signals; site 101 reads far too high for any soil, site 202
 /// so high that it stands out once the first is gone.
 inline RawSurvey SpoiltTransect()
 {
-  RawSurvey survey = TransectSurvey(10, 60, 2, 7);
+  RawSurvey survey = TransectSurvey(11, 60, 2, 7);
   survey.Signal1[100] = 1E9;
   survey.Signal1[201] = 500;
   return survey;
