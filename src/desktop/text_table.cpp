@@ -61,6 +61,7 @@ class DecimalAligner : public QStyledItemDelegate {
 std::vector<std::string> ReadRow(const QTableWidget& widget, int row)
 {
   std::vector<std::string> cells;
+  cells.reserve(static_cast<std::size_t>(widget.columnCount()));
   for (int column = 0; column < widget.columnCount(); ++column) {
     cells.push_back(FromQt(widget.item(row, column)->text()));
   }

@@ -102,7 +102,7 @@ inline std::string SteadyText(const std::string& text, const std::filesystem::pa
 /// so high that it stands out once the first is gone.
 inline RawSurvey SpoiltTransect()
 {
-  RawSurvey survey = TransectSurvey(11, 60, 2, 7);
+  RawSurvey survey = TransectSurvey(10, 62, 2, 7);
   survey.Signal1[100] = 1E9;
   survey.Signal1[201] = 500;
   return survey;
