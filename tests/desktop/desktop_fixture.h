@@ -16,6 +16,7 @@
 #include <QPointer>
 #include <QSettings>
 #include <QTest>
+#include <QtWidgets>
 #include <gtest/gtest.h>
 
 #include <filesystem>
