@@ -173,7 +173,7 @@ class ElementWriter {
     if (text.Anchor != TextAnchor::Start) {
       element += text.Anchor == TextAnchor::Middle ? " text-anchor=\"middle\"" : " text-anchor=\"end\"";
     }
-    if (text.Text.starts_with(' ') || text.Text.ends_with(' ')) {
+    if (text.Text.starts_with(' ') || text.Text.ends_with(' ') || text.Text.find("  ") != std::string::npos) {
       element += " xml:space=\"preserve\"";
     }
     Alone(element + ">" + Escaped(text.Text) + "</text>");
