@@ -1,7 +1,10 @@
 #pragma once
 
+#include "graphics/map_legend.h"
 #include "toolkit/drawing.h"
 
+#include <cstddef>
+#include <optional>
 #include <string>
 #include <vector>
 
@@ -28,6 +31,7 @@ struct PlotAxis {
   double Low = 0;
   double High = 0;
   AxisFormat Format = AxisFormat::Text;
+  int Places = 2;  ///< decimal places of a `Coordinate`
 };
 
 /// Where a site of the survey stands on the drawing. `Site` counts from 0.
@@ -49,6 +53,8 @@ struct PlotStatistics {
 /// The drawing's surface has its left edge at -1.6, its top at -1.2, is 2.91 wide and 2.4 high, and 594 by
 /// 489 pixels at its own size; the plot box is the square from (-1.05, -1.05) to (1.05, 1.05).
 struct Plot {
+  static constexpr std::size_t FrameMarks = 8;
+
   Drawing Picture;
   PlotAxis AxisX, AxisY;
   AxisLabels Labels;
@@ -58,6 +64,8 @@ struct Plot {
   bool StatisticsPanel = false;  ///< `Frame2` shows
   bool LegendPanel = false;      ///< `Frame3` shows
   std::vector<PlotSite> Sites;   ///< the sites that stand in the picture, in the order drawn
+  bool FieldMap = false;  ///< x and y of the field at one scale: a scale bar and an arrow have a meaning
+  std::optional<MapLegend> Legend;  ///< of a colour-scale map, in the colours that it was drawn with
 };
 
 }  // namespace veln

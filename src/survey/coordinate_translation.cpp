@@ -36,6 +36,22 @@ void Mirror(std::vector<double>& axis)
   }
 }
 
+/// A swap and the two reversals are the mirroring in x with a turn by -90, 0 and 180 degrees behind it.
+FieldOrientation Translated(FieldOrientation field, const CoordinateTranslation& translation)
+{
+  constexpr int HalfTurn = 180;
+  constexpr int QuarterTurn = 90;
+  constexpr int FullTurn = 360;
+  int turn = translation.Degrees;
+  if (translation.Kind != TranslationKind::Rotate) {
+    field = {-field.Degrees, !field.Mirrored};
+    turn = translation.Kind == TranslationKind::Swap ? -QuarterTurn : 0;
+    turn = translation.Kind == TranslationKind::ReverseY ? HalfTurn : turn;
+  }
+  field.Degrees = ((field.Degrees + turn + HalfTurn) % FullTurn + FullTurn) % FullTurn - HalfTurn;
+  return field;
+}
+
 }  // namespace
 
 void TranslateCoordinates(SurveyState& state, const CoordinateTranslation& translation)
@@ -64,6 +80,7 @@ void TranslateCoordinates(SurveyState& state, const CoordinateTranslation& trans
   }
   state.CoordX = std::move(x);
   state.CoordY = std::move(y);
+  state.Orientation = Translated(state.Orientation, translation);
 }
 
 }  // namespace veln

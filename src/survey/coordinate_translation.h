@@ -12,9 +12,9 @@ struct CoordinateTranslation {
   int Degrees = 0;  ///< for a rotation: whole degrees, -180 to 180, positive counter-clockwise
 };
 
-/// Swaps, rotates or mirrors all sites; rotation and mirroring are about the mean point of all sites. Throws
-/// Refusal, with the coordinates as they were, when no survey is imported or a result would leave the
-/// doubles.
+/// Swaps, rotates or mirrors all sites; rotation and mirroring are about the mean point of all sites. Keeps
+/// account in `Orientation`. Throws Refusal, with the coordinates as they were, when no survey is imported or
+/// a result would leave the doubles.
 void TranslateCoordinates(SurveyState& state, const CoordinateTranslation& translation);
 
 }  // namespace veln

@@ -39,7 +39,9 @@ class MarkWriter {
   {
     out_ << "text ";
     Put(text.At);
-    out_ << " \"" << text.Text << "\" size " << text.FontSize << (text.Bold ? " bold" : "");
+    out_ << " \"" << text.Text << "\" size " << text.FontSize << (text.Bold ? " bold" : "")
+         << (text.Anchor == TextAnchor::Middle ? " middle" : "")
+         << (text.Anchor == TextAnchor::End ? " end" : "");
     Put(text.Ink);
   }
 

@@ -1,7 +1,10 @@
 #pragma once
 
+#include <cstddef>
 #include <cstdint>
 #include <iosfwd>
+#include <limits>
+#include <optional>
 #include <string>
 #include <variant>
 #include <vector>
@@ -55,17 +58,29 @@ struct BoxMark {
   bool operator==(const BoxMark&) const = default;
 };
 
-/// Text that begins with its top left corner at a place.
+/// Which point of a text's top edge stands at its place.
+enum class TextAnchor { Start, Middle, End };
+
+/// Text whose top edge is at a place: it begins there, or as its anchor tells.
 struct TextMark {
   DrawPoint At;
   std::string Text;
   Colour Ink;
   double FontSize = 8;  ///< points at the drawing's own size
   bool Bold = false;
+  TextAnchor Anchor = TextAnchor::Start;
   bool operator==(const TextMark&) const = default;
 };
 
 using DrawMark = std::variant<DotMark, LineMark, BoxMark, TextMark>;
+
+/// The marks from `Begin` to before `End`, which show only inside a box.
+struct ClippedMarks {
+  DrawPoint First, Second;  ///< two opposite corners of the box
+  std::size_t Begin = 0;
+  std::size_t End = std::numeric_limits<std::size_t>::max();
+  bool operator==(const ClippedMarks&) const = default;
+};
 
 /// A picture as data: a display list in logical coordinates, drawn in its order. What is drawn later covers
 /// what was drawn before.
@@ -77,6 +92,7 @@ struct Drawing {
   double ScaleHeight = 1;
   double PixelWidth = 100;  ///< width of the surface in pixels at which pens and fonts have their own size
   std::vector<DrawMark> Marks;
+  std::optional<ClippedMarks> Clip;
 
   void PSet(DrawPoint at, const Pen& pen) { Marks.emplace_back(DotMark{at, pen}); }
   void Line(DrawPoint from, DrawPoint to, const Pen& pen) { Marks.emplace_back(LineMark{from, to, pen}); }

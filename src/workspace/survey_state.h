@@ -65,6 +65,15 @@ struct DesignPanel {
   bool operator==(const DesignPanel&) const = default;
 };
 
+/// How the field lies after coordinate translations: mirrored in x or not, then turned.
+struct FieldOrientation {
+  int Degrees = 0;  ///< -180 to 179, positive counter-clockwise
+  bool Mirrored = false;
+  /// Whether x and y run as in the survey's file.
+  [[nodiscard]] bool AsSurveyed() const { return Degrees == 0 && !Mirrored; }
+  bool operator==(const FieldOrientation&) const = default;
+};
+
 /// The one record that holds a survey for the length of a program run. The front end owns the only one and
 /// hands it to the procedures; what a panel shows is the text that files carry.
 struct SurveyState {
@@ -83,6 +92,8 @@ struct SurveyState {
   std::vector<double> Decorr1, Decorr2;  ///< z1 and z2 in standard deviations, once decorrelated
   std::vector<double> TransitionScore;   ///< once transition analysis has run
   std::vector<std::int16_t> RowNumber;   ///< transect row, 1 to 250; empty for a grid
+
+  FieldOrientation Orientation;
 
   // How far the run has come.
   bool DecorrDone = false;
