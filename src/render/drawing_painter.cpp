@@ -1,5 +1,7 @@
 #include "render/drawing_painter.h"
 
+#include "render/dot_stamps.h"
+
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
@@ -15,18 +17,25 @@ QColor ToQt(Colour colour)
   return {colour.Red, colour.Green, colour.Blue};
 }
 
+QRgb RgbOf(Colour colour)
+{
+  return qRgb(colour.Red, colour.Green, colour.Blue);
+}
+
 /// Paints one mark after the other on a device.
 class MarkPainter {
  public:
   MarkPainter(QPainter& painter, const Drawing& drawing, const DrawingFrame& frame)
-      : painter_(painter), drawing_(drawing), frame_(frame)
+      : painter_(painter), drawing_(drawing), frame_(frame), stamps_(painter)
   {
   }
 
-  void operator()(const DotMark& dot) const
+  void operator()(const DotMark& dot)
   {
-    painter_.setPen(StrokeOf(dot.Stroke));
-    painter_.drawPoint(Map(dot.At));
+    if (!stamps_.Paint(Map(dot.At), dot.Stroke.Width * frame_.Enlarged, RgbOf(dot.Stroke.Ink))) {
+      painter_.setPen(StrokeOf(dot.Stroke));
+      painter_.drawPoint(Map(dot.At));
+    }
   }
   void operator()(const LineMark& line) const
   {
@@ -67,6 +76,7 @@ class MarkPainter {
   QPainter& painter_;
   const Drawing& drawing_;
   const DrawingFrame& frame_;
+  DotStamps stamps_;
 };
 
 }  // namespace
@@ -89,7 +99,7 @@ void PaintDrawing(QPainter& painter, const Drawing& drawing, const DrawingFrame&
 {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  const MarkPainter paint(painter, drawing, frame);
+  MarkPainter paint(painter, drawing, frame);
   for (std::size_t i = first; i < drawing.Marks.size(); ++i) {
     std::visit(paint, drawing.Marks[i]);
   }
