@@ -15,12 +15,13 @@ trap 'kill $(jobs -p) 2>/dev/null; wait; rm -rf "$folder"' EXIT
 export HOME=$folder XDG_CONFIG_HOME=$folder/.config QT_QPA_PLATFORM=xcb
 prepare_program_folder "$folder/program"
 
-Xvfb -displayfd 4 -screen 0 1180x820x24 -nolisten tcp 4>"$folder/display" 2>/dev/null &
+Xvfb -displayfd 4 -screen 0 1440x680x24 -nolisten tcp 4>"$folder/display" 2>/dev/null &
 until [[ -s $folder/display ]]; do sleep 0.1; done
 export DISPLAY=:$(<"$folder/display")
 openbox >/dev/null 2>&1 &
 sleep 1
 xset r off
+xsetroot -solid '#6b7785'
 (cd "$folder/program" && exec "$root/build/release/src/desktop/veln-qtrd" 2>/dev/null) &
 
 # keys KEY...: one after the other, each once the last has had its effect. text TEXT: typed.
@@ -38,7 +39,7 @@ text() {
 }
 
 main=$(xdotool search --sync --onlyvisible --name 'VELN-QTRD Software' | head -n 1)
-xdotool windowmove --sync "$main" 10 10
+xdotool windowmove --sync "$main" 16 36
 keys alt+f p alt+n
 text demo
 keys Return alt+d
