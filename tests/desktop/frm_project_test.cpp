@@ -93,16 +93,6 @@ TEST_F(FrmProject, KeysThatEnterNothingPassSilently)
   EXPECT_TRUE(Asked.Said.empty());
 }
 
-TEST_F(FrmProject, ReplacingASelectionByOneCharacterCompletesNoCode)
-{
-  ChooseFirstProject();
-  QTest::keyClicks(&Code(), "AB1");
-  Code().selectAll();
-  QTest::keyClicks(&Code(), "7");
-  EXPECT_EQ(Text("frmProject", "Text3"), "7");
-  EXPECT_TRUE(CodeHidden());
-}
-
 TEST_F(FrmProject, UnderscoreBeepsInTheCodeAndPassesInAName)
 {
   Click("frmProject", "Command5");
@@ -172,16 +162,6 @@ TEST_F(FrmProject, OpeningAndTabbingChooseNoProject)
   EXPECT_EQ(Text("frmProject", "LblPrj"), "demo");
 }
 
-TEST_F(FrmProject, ProjectChosenBehindTheCodeDoesNotShowOk)
-{
-  QTest::keyClicks(&Code(), "AB12");
-  ChooseFirstProject();
-  EXPECT_TRUE(CodeHidden());
-  QTest::keyClick(&Code(), Qt::Key_Backspace);
-  QTest::keyClicks(&Code(), "2");
-  EXPECT_TRUE(CodeShown());
-}
-
 TEST_F(FrmProject, CreateMakesTheDirectoryAndBringsOkBack)
 {
   ChooseFirstProject();
@@ -202,22 +182,6 @@ TEST_F(FrmProject, CreateMakesTheDirectoryAndBringsOkBack)
   EXPECT_EQ(Window("frmProject"), nullptr);
   EXPECT_TRUE(std::filesystem::is_directory(Directory / "data" / "new.field"));
   EXPECT_TRUE(Shared.State.ProjectName.empty());
-}
-
-TEST_F(FrmProject, CreateRefusesNoNameAndADirectoryThatExists)
-{
-  Click("frmProject", "Command5");
-  Click("frmProject", "Command3");
-  EXPECT_EQ(Asked.Said,
-            (std::vector<std::string>{"beep", "inform: Invalid Project Name!  Please try again..."}));
-  Type("frmProject", "Text1", "demo");
-  Click("frmProject", "Command3");
-  EXPECT_THAT(Asked.Said.back(), testing::HasSubstr("File exists"));
-  EXPECT_TRUE(Shown("frmProject", "Command3"));
-  EXPECT_EQ(Text("frmProject", "LblPrj"), "");
-  EXPECT_EQ(Control<QListWidget>("frmProject", "List1").count(), 1);
-  Click("frmProject", "Command4");
-  EXPECT_FALSE(Shown("frmProject", "Label3"));
 }
 
 TEST_F(FrmProject, NoToOverwritingEmptiesTheCodeAlone)
@@ -255,17 +219,6 @@ TEST_F(FrmProject, OkSetsProjectAndFieldAndMayBeRepeated)
   EXPECT_EQ(Shared.State.FieldDescription, std::string(60, 'd'));
   EXPECT_TRUE(Shared.State.Menu.IsEnabled(MenuEntry::mnuImport));
   EXPECT_TRUE(Asked.Said.empty()) << "only an information file counts as earlier work";
-}
-
-TEST_F(FrmProject, WithoutTheDataDirectoryItWarnsAndListsNothing)
-{
-  std::filesystem::remove_all(Directory / "data");
-  Reopen();
-  EXPECT_EQ(
-      Asked.Said,
-      (std::vector<std::string>{
-          "beep", "inform: Warning: The VELN-QTRD program can not locate the veln2\\data subdirectory!"}));
-  EXPECT_EQ(Control<QListWidget>("frmProject", "List1").count(), 0);
 }
 
 TEST_F(FrmProject, EscClosesItAndAnImportToo)

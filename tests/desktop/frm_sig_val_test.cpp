@@ -88,39 +88,6 @@ TEST_F(FrmSigVal, GridWithoutOutliersCanOnlyBeAccepted)
   EXPECT_FALSE(Shared.State.Menu.IsEnabled(MenuEntry::mnuSigV));
 }
 
-TEST_F(FrmSigVal, AcceptanceOpensTheTransectOptionsAndDeletionClosesThem)
-{
-  Open(WithOutliers(TransectSurvey(5, 20)));
-  Click("frmSigVal", "Option2");
-  EXPECT_TRUE(Chosen("Option2") && Enabled("Check2") && Enabled("ChkEB1") && Enabled("Label2"));
-  EXPECT_EQ(Text("frmSigVal", "LblRC"), "Row Count =  5");
-  EXPECT_EQ(Text("frmSigVal", "Command2"), "Invoke Validation");
-  EXPECT_FALSE(Enabled("OptEB1"));
-  Click("frmSigVal", "Check2");
-  EXPECT_TRUE(Chosen("Check2") && Shown("frmSigVal", "Label1"));
-  Click("frmSigVal", "ChkEB1");
-  Click("frmSigVal", "Option1");
-  EXPECT_TRUE(Chosen("Option1") && Chosen("Check2"));
-  EXPECT_FALSE(Enabled("Check2") || Enabled("ChkEB1") || Chosen("ChkEB1") || Chosen("OptEB1"));
-  Click("frmSigVal", "Option2");
-  EXPECT_TRUE(Chosen("Check2") && Enabled("Check2"));
-  EXPECT_FALSE(Chosen("Option1"));
-}
-
-TEST_F(FrmSigVal, EdgeBufferingSelectsAndClearsItsOptions)
-{
-  Open(TransectSurvey(5, 20));
-  Click("frmSigVal", "ChkEB1");
-  EXPECT_TRUE(Chosen("ChkEB1") && Chosen("OptEB1") && Enabled("OptEB1") && Enabled("OptEB2"));
-  Click("frmSigVal", "OptEB2");
-  EXPECT_TRUE(Chosen("OptEB2"));
-  EXPECT_FALSE(Chosen("OptEB1"));
-  Click("frmSigVal", "OptEB2");
-  EXPECT_TRUE(Chosen("OptEB2")) << "a second click clears no option";
-  Click("frmSigVal", "ChkEB1");
-  EXPECT_FALSE(Chosen("OptEB1") || Chosen("OptEB2") || Enabled("OptEB1") || Enabled("OptEB2"));
-}
-
 TEST_F(FrmSigVal, DeletionGoesBackToDecorrelation)
 {
   Open(WithOutliers(TransectSurvey(5, 20)));
@@ -164,16 +131,6 @@ TEST_F(FrmSigVal, AcceptanceRunsTheOptionsAsked)
   EXPECT_EQ(std::ranges::count(Shared.State.SiteStatus, site_status::Outlier), 0);
   EXPECT_THAT(Asked.Said, Contains(HasSubstr("sites were masked by the edge buffering algorithm.")));
   EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
-}
-
-TEST_F(FrmSigVal, AcceptanceWithoutOptionsSaysNone)
-{
-  Open(TransectSurvey(5, 20));
-  std::filesystem::remove_all(Directory / "data" / "farm");
-  Click("frmSigVal", "Command2");
-  EXPECT_EQ(Shared.State.Algorithms.LblEB, "none");
-  EXPECT_EQ(Shared.State.Algorithms.Label21, "none");
-  EXPECT_THAT(Asked.Said, Contains(HasSubstr("could not create survey information file")));
 }
 
 TEST_F(FrmSigVal, EscLeavesEverySiteAndAcceptanceElsewhereCloses)
