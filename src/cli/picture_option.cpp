@@ -75,11 +75,11 @@ std::string ReadRow(const std::string& name, const PictureOffer& offer)
     RefuseKind(name, "needs a transect survey (--type transect).");
   }
   const std::string row = name.substr(name.find(':') + 1);
-  const auto number = ParseNumber(row);
-  if (!number || row.find_first_not_of("0123456789") != std::string::npos) {
+  if (row.empty() || row.find_first_not_of("0123456789") != std::string::npos) {
     RefuseKind(name, "has no row number behind the colon.");
   }
-  return GeneralForm(*number);
+  const auto number = ParseNumber(row);  // none if it leaves the doubles
+  return number ? GeneralForm(*number) : row;
 }
 
 PictureOption ReadKind(const std::string& name, const PictureOffer& offer)

@@ -13,7 +13,7 @@ namespace veln {
 
 namespace {
 
-constexpr double Inset = 0.03;  // from the frame, in logical coordinates
+constexpr double Inset = 0.02;  // from the frame, in logical coordinates
 constexpr double FontSize = 8;
 
 /// A place for furniture inside the box.
@@ -29,7 +29,7 @@ struct Block {
 
 constexpr Block ArrowBlock{0.14, 0.27};
 constexpr double BarHeight = 0.16;
-constexpr double BarMargin = 0.04;  // beside the bar
+constexpr double BarMargin = 0.03;  // beside the bar
 constexpr double LongestBar = 0.48;
 
 DrawPoint TopLeftOf(Corner corner, const Block& block)
@@ -42,13 +42,14 @@ DrawPoint TopLeftOf(Corner corner, const Block& block)
 Corner EmptiestCorner(const Plot& plot, const PlotView& view, const Block& block,
                       const std::array<Corner, 4>& liking, const std::optional<Corner>& taken)
 {
+  constexpr double DotReach = 0.025;
   std::array<std::size_t, 4> sites{};
   for (const PlotSite& site : plot.Sites) {
     const DrawPoint at = view.Place(site.At);
     for (std::size_t i = 0; i < liking.size(); ++i) {
       const DrawPoint corner = TopLeftOf(liking.at(i), block);
-      const bool inside = at.X >= corner.X && at.X <= corner.X + block.Width && at.Y >= corner.Y &&
-                          at.Y <= corner.Y + block.Height;
+      const bool inside = at.X >= corner.X - DotReach && at.X <= corner.X + block.Width + DotReach &&
+                          at.Y >= corner.Y - DotReach && at.Y <= corner.Y + block.Height + DotReach;
       sites.at(i) += inside ? 1 : 0;
     }
   }

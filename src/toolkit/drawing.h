@@ -50,7 +50,7 @@ struct LineMark {
   bool operator==(const LineMark&) const = default;
 };
 
-/// A box with two opposite corners: its outline, or filled.
+/// A box with two opposite corners: its outline, or filled, and then at least as thick as its pen.
 struct BoxMark {
   DrawPoint First, Second;
   Pen Stroke;

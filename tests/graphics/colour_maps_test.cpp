@@ -110,18 +110,6 @@ TEST(DesignOverlay, MarksTheDesignsAskedForOnTheMapShown)
   EXPECT_FALSE(graph.Shown.LegendPanel);
 }
 
-TEST(DesignOverlay, IsOnlyForMaps)
-{
-  SurveyState state = ThreeClasses();
-  state.SiteStatus = {1, 1, 1};
-  SurveyGraph graph = OpenGraph(state);
-  ShowSurveyGrid(graph, state);
-  const Plot grid = graph.Shown;
-  EXPECT_FALSE(graph.OverlayAllowed());
-  CSOver(graph, state, {true});
-  EXPECT_EQ(graph.Shown.Picture, grid.Picture);
-}
-
 TEST(LabelledSiteMap, HasSpecksHeavyDotsAndBoldNumbersToTheUpperLeft)
 {
   SurveyState state = ThreeClasses();

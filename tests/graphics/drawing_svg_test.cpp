@@ -1,14 +1,12 @@
 #include "graphics/drawing_svg.h"
 
+#include "graphics/mark_layers.h"
 #include "support/surveys.h"
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <cstdlib>
 #include <map>
-#include <sstream>
 #include <string>
 #include <vector>
 
@@ -22,91 +20,32 @@ Drawing Surface()
   return {0, 0, 100, 100, 100, {}, {}};
 }
 
-/// A dot as the document has it, in twips.
-struct SvgDot {
-  long X, Y, Width;
-  std::string Ink;
-  bool operator==(const SvgDot&) const = default;
-  auto operator<=>(const SvgDot&) const = default;
-};
-
-/// The text between two marks behind `at`, which moves behind it; empty at the end.
-std::string Between(const std::string& text, std::size_t& at, const std::string& before,
-                    const std::string& after)
+TEST(MarkLayers, KeepThePictureOfTheDrawingOrder)
 {
-  const std::size_t begin = text.find(before, at);
-  if (begin == std::string::npos) {
-    at = text.size();
-    return "";
-  }
-  const std::size_t end = text.find(after, begin + before.size());
-  at = end;
-  return text.substr(begin + before.size(), end - begin - before.size());
-}
-
-/// The dots of a document in the order drawn.
-std::vector<SvgDot> DotsOf(const std::string& svg)
-{
-  std::vector<SvgDot> dots;
-  for (std::size_t at = 0; at < svg.size();) {
-    const std::string pen = Between(svg, at, "<path class=\"", "\"");
-    std::istringstream data(Between(svg, at, " d=\"", "\""));
-    std::size_t style = 0;
-    SvgDot dot{0, 0, 0, Between(svg, style, "." + pen + "{stroke:", ";")};
-    dot.Width = std::atol(Between(svg, style, "stroke-width:", "}").c_str());
-    for (char command = 0; data >> command;) {
-      long x = 0;
-      long y = 0;
-      data >> x;
-      data.ignore(data.peek() == ',' ? 1 : 0);
-      data >> y;
-      dot.X = x + (command == 'm' ? dot.X : 0);
-      dot.Y = y + (command == 'm' ? dot.Y : 0);
-      data.ignore(2);  // "h0"
-      dots.push_back(dot);
-    }
-  }
-  return dots;
-}
-
-TEST(SvgText, KeepsThePictureOfTheDrawingOrder)
-{
+  struct Dot {
+    UnitPoint At;
+    int Ink, Width;
+    std::size_t Layer;
+  };
   SteadyRandom random(11);
-  Drawing drawing = Surface();
-  std::vector<SvgDot> expected;
-  const std::vector<std::pair<Colour, std::string>> inks = {
-      {{255, 0, 0}, "#ff0000"}, {{0, 128, 0}, "#008000"}, {{0, 0, 255}, "#0000ff"}};
+  MarkLayers layers(1500, 1500, 15);
+  std::vector<Dot> dots;
+  std::map<std::size_t, int> inks;
   for (int i = 0; i < 1500; ++i) {
-    const auto& [ink, name] = inks[static_cast<std::size_t>(random.Next() * 3)];
-    const double width = random.Next() < 0.5 ? 2 : 6;
-    const DrawPoint at{std::floor(random.Next() * 1500) / 15, std::floor(random.Next() * 1500) / 15};
-    drawing.PSet(at, {ink, width});
-    expected.push_back({std::lround(at.X * 15), std::lround(at.Y * 15), std::lround(width * 15), name});
-  }
-  const std::string svg = SvgText(drawing);
-  std::vector<SvgDot> found = DotsOf(svg);
-  EXPECT_LT(std::count(svg.begin(), svg.end(), '\n'), 1000) << "dots share their paths";
-  std::multimap<SvgDot, std::size_t> places;
-  for (std::size_t i = 0; i < found.size(); ++i) {
-    places.emplace(found[i], i);
-  }
-  std::vector<std::size_t> order;
-  for (const SvgDot& dot : expected) {
-    const auto place = places.find(dot);
-    ASSERT_NE(place, places.end()) << dot.X << "," << dot.Y;
-    order.push_back(place->second);
-    places.erase(place);
-  }
-  EXPECT_TRUE(places.empty());
-  for (std::size_t i = 0; i < expected.size(); ++i) {
-    for (std::size_t j = 0; j < i; ++j) {
-      const SvgDot& a = expected[i];
-      const SvgDot& b = expected[j];
-      const long reach = (a.Width + b.Width) / 2;
-      const bool overlap = (a.X - b.X) * (a.X - b.X) + (a.Y - b.Y) * (a.Y - b.Y) < reach * reach;
-      ASSERT_TRUE(a.Ink == b.Ink || !overlap || order[j] < order[i]) << j << " under " << i;
+    const auto whole = [&random](int below) { return static_cast<int>(random.Next() * below); };
+    Dot dot{{whole(1500), whole(1500)}, 9 + whole(3), 30 + 60 * whole(2), 0};
+    dot.Layer = layers.Place(dot.At, dot.At, QBColor(dot.Ink), dot.Width);
+    EXPECT_EQ(inks.emplace(dot.Layer, dot.Ink).first->second, dot.Ink) << "a layer has one colour";
+    for (const Dot& before : dots) {
+      const long x = before.At.X - dot.At.X;
+      const long y = before.At.Y - dot.At.Y;
+      const long reach = (before.Width + dot.Width) / 2;
+      const bool overlap = x * x + y * y < reach * reach;
+      ASSERT_TRUE(before.Ink == dot.Ink || !overlap || before.Layer < dot.Layer) << "at dot " << i;
     }
+    dots.push_back(dot);
   }
+  EXPECT_LT(inks.size(), 200) << "dots share their layers";
 }
 
 TEST(SvgText, DrawsALineBetweenWhatLiesUnderAndOverIt)

@@ -17,6 +17,11 @@ struct GoldenPicture {
   std::function<std::string(SurveyGraph& graph, SurveyState& state)> Draw;
 };
 
+void PrintTo(const GoldenPicture& picture, std::ostream* out)
+{
+  *out << picture.File;
+}
+
 std::string PageOf(const SurveyGraph& graph)
 {
   return SvgText(PlotPage(graph.Shown), graph.Shown.Title);

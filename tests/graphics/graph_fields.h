@@ -67,20 +67,11 @@ inline Plot PlotOf(SurveyState state, GraphEntry entry)
 }
 
 /// Where the sites of a plot stand on one axis.
-inline std::vector<double> PlacesX(const Plot& plot)
+inline std::vector<double> PlacesOn(double DrawPoint::* axis, const Plot& plot)
 {
   std::vector<double> places;
   for (const PlotSite& site : plot.Sites) {
-    places.push_back(site.At.X);
-  }
-  return places;
-}
-
-inline std::vector<double> PlacesY(const Plot& plot)
-{
-  std::vector<double> places;
-  for (const PlotSite& site : plot.Sites) {
-    places.push_back(site.At.Y);
+    places.push_back(site.At.*axis);
   }
   return places;
 }

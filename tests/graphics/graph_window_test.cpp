@@ -76,8 +76,6 @@ TEST(GraphWindow, DrawsWhatIsLeftAfterADeletionOnTheOldRanges)
   SurveyState state = SmallExample();
   SurveyGraph graph = OpenGraph(state);
   const Limits before = graph.XRange;
-  state.Decorrelation.Lblostdcnt = "1";
-  state.Menu.Apply(WorkflowEvent::SignalsDecorrelated);
   for (auto* column :
        {&state.CoordX, &state.CoordY, &state.Signal1, &state.Signal2, &state.Decorr1, &state.Decorr2}) {
     column->resize(40);
@@ -85,7 +83,6 @@ TEST(GraphWindow, DrawsWhatIsLeftAfterADeletionOnTheOldRanges)
   state.SiteStatus.resize(40);
   state.SurveySize = 40;  // the transition scores keep their 60
   DitherGenerator dither;
-  ScriptedDialogs dialogs;
   for (int i = 0; i < GraphEntryCount; ++i) {
     const auto entry = static_cast<GraphEntry>(i);
     if (entry != mnuOSS && graph.IsEnabled(entry)) {

@@ -19,20 +19,16 @@ SurveyState WithSignal(const std::vector<double>& s1)
   return SitesAt(places, places, s1);
 }
 
-TEST(HistogramCounts, PutAValueOnAnEdgeIntoTheUpperBin)
+TEST(HistogramCounts, PutAValueOnAnEdgeIntoTheUpperBinAndAConstantSeriesIntoTheLast)
 {
+  SurveyState constant = WithSignal({4, 4, 4});
+  EXPECT_EQ(OpenGraph(constant).HistCount[0][19], 3);
   std::vector<double> steps(21);
   std::iota(steps.begin(), steps.end(), 0.0);  // 0 to 20: bin j holds j - 1, the last one 20 as well
   SurveyState state = WithSignal(steps);
   const SurveyGraph graph = OpenGraph(state);
   EXPECT_EQ(graph.HistCount[0][19], 2);
   EXPECT_THAT(std::vector(graph.HistCount[0].begin(), graph.HistCount[0].end() - 1), Each(1));
-}
-
-TEST(HistogramCounts, PutAConstantSeriesIntoTheLastBin)
-{
-  SurveyState state = WithSignal({4, 4, 4});
-  EXPECT_EQ(OpenGraph(state).HistCount[0][19], 3);
 }
 
 TEST(HistogramCounts, StayAsInitHistLeftThemWhileTheLimitsFollow)

@@ -39,24 +39,6 @@ class LinePlots : public testing::Test {
   ScriptedDialogs Dialogs;
 };
 
-TEST_F(LinePlots, OpenWithAClearedBoxAndClosedButtons)
-{
-  Graph.LinePanel.Command6Enabled = true;
-  StartLinePlots(Graph, mnuLs1s2);
-  EXPECT_EQ(Graph.LineMode, 3);
-  EXPECT_TRUE(Graph.Shown.LinePanel);
-  EXPECT_FALSE(Graph.Shown.StatisticsPanel || Graph.LinePanel.Command6Enabled);
-  EXPECT_EQ(Graph.Shown.Title, "Please use Line Plot Buttons to select a row to Display");
-  EXPECT_EQ(Graph.Shown.Picture.Marks.size(), Plot::FrameMarks);
-}
-
-TEST_F(LinePlots, AreClosedUntilInitialised)
-{
-  SurveyGraph fresh = LoadSurveyGraph(State);
-  EXPECT_EQ(RefusalOf([&] { StartLinePlots(fresh, mnuLs1); }),
-            "This graph is not available for the survey as it stands.");
-}
-
 TEST_F(LinePlots, JoinTheSitesOfARowOnTheAxesOfTheWholeSurvey)
 {
   State.SiteStatus[2] = site_status::Masked;
@@ -180,19 +162,6 @@ TEST_F(LinePlots, StatisticsOfBothSignalsStandBelowOneAnother)
   EXPECT_EQ(Graph.Shown.Statistics, (PlotStatistics{"EMv", "u= 2.667", "s= 2.082", "EMh", "u= 4.000",
                                                     "s= 1.000", "s1 s2 Corr", "r= 0.9608", "r= 1.0000"}));
   EXPECT_FALSE(Graph.LinePanel.Command7Enabled);
-}
-
-TEST_F(LinePlots, StatisticsOfS2AloneFillTheFirstBlock)
-{
-  Graph.TransectAxis = 'y';
-  StartLinePlots(Graph, mnuLs2);
-  Plot("3");
-  EXPECT_TRUE(Graph.LinePanel.Command7Enabled);
-  ShowRowStats2(Graph, State, Dialogs);
-  EXPECT_EQ(Graph.Shown.Statistics,
-            (PlotStatistics{"EMh", "u= 8.000", "s= 1.414", "", "", "", "Corr(s2, y)", "", ""}))
-      << "y is constant along the row";
-  EXPECT_THAT(Dialogs.Said, IsEmpty());
 }
 
 TEST_F(LinePlots, RowNumbersAreTypedInDigits)

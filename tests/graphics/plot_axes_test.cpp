@@ -97,13 +97,5 @@ TEST(ZoomedLabels, TellTheValuesAtTheTicksOfTheBox)
   EXPECT_EQ(VisibleLabels(plot, quarter).txtMedY, "dither");
 }
 
-TEST(PlotView, TakesPlacesToTheBoxAndBack)
-{
-  const PlotView view{-0.2, 0.1, 0.5};
-  EXPECT_DOUBLE_EQ(view.Place({-0.2, 0.1}).X, -BoxEdge);
-  EXPECT_DOUBLE_EQ(view.Place({0.3, 0.6}).Y, BoxEdge);
-  EXPECT_NEAR(view.Fitted(view.Place({0.12, 0.34})).Y, 0.34, 1E-15);
-}
-
 }  // namespace
 }  // namespace veln

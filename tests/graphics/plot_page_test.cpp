@@ -5,17 +5,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <cmath>
-
 namespace veln {
 namespace {
 
 using enum GraphEntry;
-using testing::AllOf;
-using testing::Contains;
-using testing::Field;
 using testing::IsEmpty;
-using testing::IsSupersetOf;
 
 std::vector<std::string> TextsOf(const Drawing& drawing)
 {
@@ -26,22 +20,8 @@ std::vector<std::string> TextsOf(const Drawing& drawing)
   return texts;
 }
 
-TEST(PlotPage, CarriesTitleLabelsStatisticsAndLegend)
-{
-  const Plot scatter = PlotOf(SmallExample(), mnuSs1s2);
-  const Drawing page = PlotPage(scatter);
-  EXPECT_THAT(TextsOf(page),
-              IsSupersetOf({scatter.Title, scatter.Labels.txtMinX, scatter.Labels.txtMedY,
-                            std::string("Statistics"), std::string("EMh"), scatter.Statistics.Lblr1}));
-  EXPECT_EQ(page.PixelWidth, 594);
-  EXPECT_NEAR(page.ScaleHeight / page.ScaleWidth * page.PixelWidth, 489, 1E-9);
-  EXPECT_EQ(page.Clip->Begin, 9) << "paper and box come first";
-  const Drawing map = PlotPage(PlotOf(SmallExample(), mnuVs1));
-  EXPECT_THAT(TextsOf(map), IsSupersetOf({"ColorScale Legend", "< 1 STD below", "Signal mean"}));
-  EXPECT_THAT(TextsOf(map), testing::Not(Contains("Statistics")));
-}
-
-/// A generous box around a text, in pixels of the page: characters are at most `widest` font sizes wide.
+/// A generous box around a text, in pixels of the page: characters as wide as the widest common fonts have
+/// them.
 struct TextBox {
   double Left, Right, Top, Bottom;
 };

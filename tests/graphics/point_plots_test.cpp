@@ -34,8 +34,8 @@ TEST(PlotBox, IsOneFilledBoxItsFrameAndSixTicks)
 TEST(ScatterPlot, HasItsExtremesAtOneAndLabelsTitleAndStatistics)
 {
   const Plot plot = PlotOf(FiveSites(), mnuSs1x);
-  EXPECT_THAT(PlacesX(plot), ElementsAre(-1, -0.5, 0, 0.5, 1));
-  EXPECT_THAT(PlacesY(plot), ElementsAre(0, 1, -1, 0.5, -0.5));
+  EXPECT_THAT(PlacesOn(&DrawPoint::X, plot), ElementsAre(-1, -0.5, 0, 0.5, 1));
+  EXPECT_THAT(PlacesOn(&DrawPoint::Y, plot), ElementsAre(0, 1, -1, 0.5, -0.5));
   EXPECT_THAT(DotPens(plot), Each(Plain));
   EXPECT_EQ(plot.Labels, (AxisLabels{"100", "140", "180", "10.00", "30.00", "50.00"}));
   EXPECT_EQ(plot.Title, "EMv versus X");
@@ -52,7 +52,7 @@ TEST(ScatterPlot, OfTheSignalsTakesItsStatisticsFromTheMainWindow)
   state.Signals.LblCorr = "0.1234";
   state.Signals.Rows[1].LblMu = "7.5";
   const Plot plot = PlotOf(state, mnuSs1s2);
-  EXPECT_THAT(PlacesX(plot), ElementsAre(-1, -0.5, 0, 0.5, 1));
+  EXPECT_THAT(PlacesOn(&DrawPoint::X, plot), ElementsAre(-1, -0.5, 0, 0.5, 1));
   EXPECT_EQ(plot.Labels, (AxisLabels{"2.00", "4.00", "6.00", "10.00", "30.00", "50.00"}));
   EXPECT_EQ(plot.Statistics, (PlotStatistics{"EMv", "u= 30.000", "s= 15.811", "EMh", "u= 7.500", "s= 1.581",
                                              "Corr(s1, s2)", "r= 0.1234", ""}));
@@ -62,8 +62,8 @@ TEST(ScatterPlot, OfTheSignalsTakesItsStatisticsFromTheMainWindow)
 TEST(ScatterPlot, OfAConstantSignalHasItsSitesInTheMiddleAndNoCorrelation)
 {
   const Plot plot = PlotOf(SitesAt({1, 2, 3}, {5, 5, 5}, {7, 7, 7}), mnuSs1y);
-  EXPECT_THAT(PlacesX(plot), Each(0));
-  EXPECT_THAT(PlacesY(plot), Each(0));
+  EXPECT_THAT(PlacesOn(&DrawPoint::X, plot), Each(0));
+  EXPECT_THAT(PlacesOn(&DrawPoint::Y, plot), Each(0));
   EXPECT_EQ(plot.Labels, (AxisLabels{"5", "5", "5", "7.00", "7.00", "7.00"}));
   EXPECT_EQ(plot.Statistics.Lblv1, "s= 0.000");
   EXPECT_EQ(plot.Statistics.LblCorr, "Corr(s1, y)");
@@ -89,17 +89,6 @@ TEST(Highlights, LieOverThePlainDotInTheOrderOfTheSites)
   SetHLOps(graph, false, false);
   ShowSurveyGrid(graph, state);
   EXPECT_THAT(DotPens(graph.Shown), Each(Plain));
-}
-
-TEST(SurveyGridPlot, HasEqualScalesAndNoPanels)
-{
-  const Plot plot = PlotOf(FiveSites(), mnuGrid);
-  // y from 0 to 40 is widened to 80 about 20.
-  EXPECT_EQ(plot.Labels, (AxisLabels{"100", "140", "180", "-20", "20", "60"}));
-  EXPECT_THAT(PlacesY(plot), ElementsAre(0.5, -0.5, 0, 0.25, -0.25));
-  EXPECT_EQ(plot.Title, "Grid Map of Survey Site Locations");
-  EXPECT_TRUE(plot.FieldMap);
-  EXPECT_FALSE(plot.StatisticsPanel || plot.LinePanel || plot.LegendPanel);
 }
 
 SurveyState WithDecorrelated(SurveyState state, std::vector<double> z1, std::vector<double> z2 = {})
@@ -150,27 +139,17 @@ TEST(DitherPlot, SpreadsOneSignalOnABandAnewEachTime)
   const Plot first = graph.Shown;
   EXPECT_EQ(first.Labels, (AxisLabels{"-6.00", "0.00", "6.00", " ", "dither", " "}));
   EXPECT_EQ(first.Statistics, (PlotStatistics{"z1", "u= 0.000", "s= 1.000", "", "", "", " ", "", ""}));
-  EXPECT_THAT(PlacesX(first), ElementsAre(-0.25, 0, 1));
-  EXPECT_THAT(PlacesY(first), Each(DoubleNear(0, 0.2)));
+  EXPECT_THAT(PlacesOn(&DrawPoint::X, first), ElementsAre(-0.25, 0, 1));
+  EXPECT_THAT(PlacesOn(&DrawPoint::Y, first), Each(DoubleNear(0, 0.2)));
   const auto lines = Only<LineMark>(first.Picture);
   EXPECT_EQ(lines[6], (LineMark{{-1, 0.25}, {1, 0.25}, {QBColor(0), 2}}));
   EXPECT_EQ(lines[7], (LineMark{{-1, -0.25}, {1, -0.25}, {QBColor(0), 2}}));
   ShowRsdPlot(graph, state, dither);
-  EXPECT_EQ(PlacesX(graph.Shown), PlacesX(first));
-  EXPECT_NE(PlacesY(graph.Shown), PlacesY(first));
+  EXPECT_EQ(PlacesOn(&DrawPoint::X, graph.Shown), PlacesOn(&DrawPoint::X, first));
+  EXPECT_NE(PlacesOn(&DrawPoint::Y, graph.Shown), PlacesOn(&DrawPoint::Y, first));
   DitherGenerator nextRun;
   ShowRsdPlot(graph, state, nextRun);
-  EXPECT_EQ(PlacesY(graph.Shown), PlacesY(first));
-}
-
-TEST(DitherGenerator, IsSpreadEvenlyOverTheUnitInterval)
-{
-  DitherGenerator dither;
-  std::vector<int> tenths(10);
-  for (int i = 0; i < 10000; ++i) {
-    ++tenths.at(static_cast<std::size_t>(dither.Next() * 10));
-  }
-  EXPECT_THAT(tenths, Each(testing::AllOf(testing::Gt(900), testing::Lt(1100))));
+  EXPECT_EQ(PlacesOn(&DrawPoint::Y, graph.Shown), PlacesOn(&DrawPoint::Y, first));
 }
 
 }  // namespace

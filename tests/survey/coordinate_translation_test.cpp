@@ -31,7 +31,24 @@ TEST(CoordinateTranslation, SwapExchangesTheAxesAndNothingElse)
   SurveyState expected = ImportedSurvey(TransectSurvey(5, 20));
   const SurveyState swapped = Translated(expected, Swap);
   std::swap(expected.CoordX, expected.CoordY);
+  expected.Orientation = {-90, true};
   EXPECT_TRUE(swapped == expected);
+}
+
+TEST(CoordinateTranslation, KeepsAccountOfTurnsAndMirrors)
+{
+  SurveyState state = ImportedSurvey(TransectSurvey(5, 20));
+  const auto apply = [&state](TranslationKind kind, int degrees = 0) {
+    TranslateCoordinates(state, {kind, degrees});
+    return state.Orientation.AsSurveyed();
+  };
+  EXPECT_FALSE(apply(TranslationKind::Rotate, 120));
+  EXPECT_FALSE(apply(TranslationKind::Swap));
+  EXPECT_FALSE(apply(TranslationKind::Swap));
+  EXPECT_TRUE(apply(TranslationKind::Rotate, -120));
+  EXPECT_FALSE(apply(TranslationKind::ReverseX));
+  EXPECT_FALSE(apply(TranslationKind::ReverseY)) << "a half turn";
+  EXPECT_TRUE(apply(TranslationKind::Rotate, 180));
 }
 
 TEST(CoordinateTranslation, QuarterTurnIsCounterClockwiseAboutTheMeanPoint)
@@ -73,6 +90,7 @@ TEST(CoordinateTranslation, AnyTurnKeepsDistancesMeansAndAllButTheCoordinates)
     ExpectNear(back.CoordY, state.CoordY);
     turned.CoordX = state.CoordX;
     turned.CoordY = state.CoordY;
+    turned.Orientation = {};
     EXPECT_TRUE(turned == state);
   }
 }
