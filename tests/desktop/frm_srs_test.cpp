@@ -326,14 +326,16 @@ TEST_F(FrmSrs, TableAndMapPointAtEachOther)
 TEST_F(FrmSrs, StatusLineRemembersItsLastTwentyTexts)
 {
   Open(5, 100);
+  Click("frmSRS", "Option1");
   Click("frmSRS", "Command2");
   const QStringList texts = Control("frmSRS", "LblMS").toolTip().split('\n');
   EXPECT_LE(texts.size(), 20);
   EXPECT_EQ(texts.constLast().toStdString(), Text("frmSRS", "LblMS"));
   EXPECT_THAT(texts.constLast().toStdString(), HasSubstr("Algorithm FINISHED:  Final Opt-Criteria = "));
   EXPECT_TRUE(texts.contains(" loading grid data, one moment please..."));
-  Click("frmSRS", "Command5");
-  Click("frmSRS", "Command2");
+  for (const char* again : {"Command5", "Command2", "Command5", "Command2"}) {
+    Click("frmSRS", again);
+  }
   EXPECT_EQ(Control("frmSRS", "LblMS").toolTip().split('\n').size(), 20);
 }
 
