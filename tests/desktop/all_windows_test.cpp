@@ -1,5 +1,10 @@
 // What holds of every window: names for a screen reader, the way through by Tab, and keys without a clash.
 
+#include "desktop/design/frm_d_list.h"
+#include "desktop/design/frm_mask.h"
+#include "desktop/design/frm_parse.h"
+#include "desktop/design/frm_srs.h"
+#include "desktop/design/frm_srs_opt.h"
 #include "desktop/desktop_fixture.h"
 #include "desktop/signal/frm_list.h"
 #include "desktop/signal/frm_sig_decorr.h"
@@ -46,6 +51,7 @@ std::vector<Opening> Openings()
   const SurveyState decorrelated = DecorrelatedSurvey(SurveyWithOutlier());
   SurveyState saved = AcceptedSurvey(SurveyWithOutlier());
   saved.ManualDesignDone = true;
+  const SurveyState accepted = AcceptedSurvey(TransectSurvey(20, 20));
   return {
       {"frmProject", {}, [](Program& program) { program.Show<frmProject>(); }},
       {"frmFileIO", {}, [](Program& program) { program.Show<frmFileIO>(); }},
@@ -58,6 +64,18 @@ std::vector<Opening> Openings()
       {"frmSigVal", decorrelated, [](Program& program) { program.Show<frmSigVal>(); }},
       {"frmList", decorrelated, [](Program& program) { program.Show<frmList>(); }},
       {"frmOutFD", saved, [](Program& program) { program.Show<frmOutFD>(); }},
+      {"frmMask", accepted, [](Program& program) { program.Show<frmMask>(); }},
+      {"frmSRS", accepted, [](Program& program) { program.Show<frmSRS>(); }},
+      {"frmParse", accepted,
+       [](Program& program) {
+         program.Show<frmSRS>();
+         program.Show<frmParse>();
+       }},
+      {"frmDList", accepted, [](Program& program) { program.Show<frmDList>(); }},
+      {"frmSRSOpt", accepted,
+       [](Program& program) {
+         program.ShowWith<frmSRSOpt>([&](QWidget* main) { return new frmSRSOpt(program, main, {}); });
+       }},
   };
 }
 

@@ -28,13 +28,14 @@ QStringList ListLevels(const SrsForm& form, const SurveyState& state)
   return lines;
 }
 
-/// The listing's height by size: the longest listing fits the full one.
-int HeightOf(DesignSize size, const QFontMetrics& metrics)
+/// The listing's height by size, on a screen of this height: the longest listing fits the full one.
+int HeightOf(DesignSize size, const QFontMetrics& metrics, int screen)
 {
   constexpr int Lines = 37;
   constexpr std::array<int, 3> Percent = {65, 80, 100};
   constexpr int Whole = 100;
-  return metrics.lineSpacing() * Lines * Percent.at(static_cast<std::size_t>(size)) / Whole;
+  const int full = qMin(metrics.lineSpacing() * Lines, screen * 3 / 4);
+  return full * Percent.at(static_cast<std::size_t>(size)) / Whole;
 }
 
 /// White paper with black text on any desktop.
@@ -68,7 +69,7 @@ frmDList::frmDList(Program& program, QWidget* parent)
   constexpr int WidestLine = 48;  // characters
   const QFontMetrics metrics(listing->font());
   listing->setMinimumSize(metrics.averageCharWidth() * WidestLine,
-                          qMin(HeightOf(form.Size, metrics), screen()->availableSize().height() * 3 / 4));
+                          HeightOf(form.Size, metrics, screen()->availableSize().height()));
   layout->addWidget(listing);
   layout->setSizeConstraint(QLayout::SetFixedSize);  // also where the window kept its place
 

@@ -2,9 +2,9 @@
 
 #include "design/design_table.h"
 #include "desktop/controls.h"
+#include "desktop/design/site_table.h"
 #include "desktop/filtered_edit.h"
 #include "desktop/text_roles.h"
-#include "desktop/text_table.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>
@@ -27,7 +27,7 @@ frmMask::frmMask(Program& program, QWidget* parent)
   left->addLayout(MakeAnswer());
   left->addStretch();
   left->addLayout(MakeButtons());
-  sites_ = MakeTextTable(this, "sites", ListManualSites(program.State));
+  sites_ = MakeSiteTable(this, program.State, ListManualSites(program.State));
   sites_->setAccessibleName("Selected sites");
   auto* layout = new QHBoxLayout(this);
   layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
@@ -142,7 +142,7 @@ void frmMask::Mirror()
   list_->setPlainText(ToQt(form_.Text2));
   list_->setVisible(form_.Text2Visible);
   SetRole(*save_, form_.Check1 ? TextRole::Chosen : TextRole::Normal);
-  FillTextTable(*sites_, ListManualSites(State()));
+  FillSiteTable(*sites_, ListManualSites(State()));
 }
 
 }  // namespace veln

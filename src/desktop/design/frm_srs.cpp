@@ -7,9 +7,9 @@
 #include "desktop/design/frm_parse.h"
 #include "desktop/design/frm_srs_observer.h"
 #include "desktop/design/frm_srs_opt.h"
+#include "desktop/design/site_table.h"
 #include "desktop/drawing_view.h"
 #include "desktop/text_roles.h"
-#include "desktop/text_table.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -218,11 +218,7 @@ void frmSRS::ShowStatus()
 
 void frmSRS::ShowSites()
 {
-  if (form_.Finished) {
-    FillTextTable(*sites_, ListDesignSites(State(), form_.Finished));
-  } else {
-    sites_->setRowCount(0);  // the columns keep their width
-  }
+  FillSiteTable(*sites_, ListDesignSites(State(), form_.Finished));
   view_->Ring(std::nullopt);
 }
 

@@ -5,17 +5,15 @@
 #include "desktop/design/frm_d_list.h"
 #include "desktop/design/frm_parse.h"
 #include "desktop/design/frm_srs.h"
+#include "desktop/design/site_table.h"
 #include "desktop/drawing_view.h"
 #include "desktop/help_request.h"
-#include "desktop/text_table.h"
-#include "toolkit/number_text.h"
 
 #include <QAction>
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
-#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -25,9 +23,6 @@
 #include <QScrollBar>
 #include <QTableWidget>
 #include <QVBoxLayout>
-
-#include <algorithm>
-#include <utility>
 
 namespace veln {
 
@@ -109,6 +104,7 @@ QLayout* frmSRS::MakeFacts()
   sampleSize_ = AddFact(*grid, this, "LblSS", "Sample Size:");
   signalColumns_ = AddFact(*grid, this, "LblSC", "Signal Data Columns used in Design:");
   grid->setColumnStretch(1, 1);
+  grid->setColumnMinimumWidth(1, fontMetrics().horizontalAdvance("200"));  // steady from 5 to 20 sites
   return grid;
 }
 
@@ -225,19 +221,11 @@ QWidget* frmSRS::MakeView()
 
 QWidget* frmSRS::MakeSiteTable()
 {
-  const SurveyState& state = State();
-  TextTable widest = ListDesignSites(state, std::nullopt);
-  std::vector<std::string> cells(widest.Headings.size(), "-0.00");
-  cells[1] = GeneralForm(state.SurveySize);
-  cells[2] = FormatNumber(*std::ranges::max_element(state.CoordX), "########0.00");
-  cells[3] = FormatNumber(*std::ranges::max_element(state.CoordY), "########0.00");
-  widest.Rows.push_back(std::move(cells));
-  sites_ = MakeTextTable(this, "sites", widest);
-  sites_->setRowCount(0);  // the columns are as wide as a design will need them
+  sites_ = veln::MakeSiteTable(this, State(), ListDesignSites(State(), form_.Finished));
   sites_->setAccessibleName("Chosen sites");
   sites_->setMouseTracking(true);
   sites_->viewport()->installEventFilter(this);
-  sites_->horizontalHeader()->setHighlightSections(false);
+  sites_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);  // more room is the map's
   connect(sites_, &QTableWidget::cellEntered, this, [this](int row, int) { RingSite(row); });
   connect(sites_, &QTableWidget::currentCellChanged, this, [this](int row, int, int, int) { RingSite(row); });
   return sites_;
