@@ -156,7 +156,10 @@ void StartLinePlots(SurveyGraph& graph, GraphEntry entry)
   CloseOverlay(graph);
   graph.Shown.LinePanel = true;
   graph.Shown.LegendPanel = false;
-  graph.LineMode = entry == GraphEntry::mnuLs1 ? 1 : (entry == GraphEntry::mnuLs2 ? 2 : BothSignals);
+  graph.LineMode = entry == GraphEntry::mnuLs1 ? 1 : 2;
+  if (entry == GraphEntry::mnuLs1s2) {
+    graph.LineMode = BothSignals;
+  }
   CloseStats(graph);
   graph.Shown.Title = "Please use Line Plot Buttons to select a row to Display";
   PlotRefresh(graph.Shown);

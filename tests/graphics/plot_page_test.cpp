@@ -31,7 +31,7 @@ TextBox BoxOf(const TextMark& text)
   constexpr double PixelsPerUnit = 594 / 2.91;
   const double size = text.FontSize * 4 / 3;
   const double width = size * (text.Bold ? 0.7 : 0.64) * static_cast<double>(text.Text.size());
-  const double shift = text.Anchor == TextAnchor::Start ? 0 : (text.Anchor == TextAnchor::Middle ? 0.5 : 1);
+  const double shift = 0.5 * static_cast<int>(text.Anchor);  // start, middle, end
   const double x = (text.At.X + 1.6) * PixelsPerUnit - shift * width;
   const double y = (text.At.Y + 1.2) * PixelsPerUnit;
   return {x, x + width, y, y + size};
