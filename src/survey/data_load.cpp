@@ -44,6 +44,7 @@ void Report(const ImportProgress& progress, ImportPass pass, int count)
 
 int ScanLines(std::string_view content, const ImportProgress& progress)
 {
+  Report(progress, ImportPass::Scanning, 0);
   const std::size_t lines = CountLines(content);
   for (int count = CounterStep; static_cast<std::size_t>(count) <= lines && count <= MostSites;
        count += CounterStep) {
@@ -158,6 +159,7 @@ RawSurvey DataLoad(std::string_view content, const RecordLayout& layout, bool lo
   content = SkipByteOrderMark(content);
   const int surveySize = ScanLines(content, progress);
   RecordReader reader(content, layout, log, surveySize);
+  Report(progress, ImportPass::Importing, 0);
   while (!reader.AtEnd()) {
     reader.ReadRecord();
     if (reader.Count() % CounterStep == 0) {

@@ -37,7 +37,7 @@ struct RawSurvey {
 
 enum class ImportPass { Scanning, Importing };
 
-/// Told the count of lines or records at every hundredth and at the end of each pass.
+/// Told the count of lines or records: 0 as a pass begins, every hundredth, and the last at its end.
 using ImportProgress = std::function<void(ImportPass pass, int count)>;
 
 /// Reads a raw survey in two passes: counts its lines (50 to 30,000), then takes as many records from its

@@ -196,8 +196,8 @@ TEST_F(FrmStructure, CountersAreRepaintedEveryHundredLines)
   Control("frmStructure", "Label13").installEventFilter(&scanned);
   Control("frmStructure", "Label15").installEventFilter(&imported);
   Click("frmStructure", "Command1");
-  EXPECT_THAT(scanned.Texts, ElementsAre("100", "200", "250"));
-  EXPECT_THAT(imported.Texts, ElementsAre("100", "200", "250"));
+  EXPECT_THAT(scanned.Texts, ElementsAre("0", "100", "200", "250"));
+  EXPECT_THAT(imported.Texts, ElementsAre("0", "100", "200", "250"));
 }
 
 TEST_F(FrmStructure, DroppedFileFillsThePathWhereverItFalls)

@@ -168,8 +168,9 @@ TEST(DataLoad, ProgressTellsEveryHundredthAndTheEndOfEachPass)
   DataLoad(Lines(230, "1 2 3"), Plain, false,
            [&told](ImportPass pass, int count) { told.emplace_back(pass, count); });
   using enum ImportPass;
-  EXPECT_THAT(told, ElementsAre(Pair(Scanning, 100), Pair(Scanning, 200), Pair(Scanning, 230),
-                                Pair(Importing, 100), Pair(Importing, 200), Pair(Importing, 230)));
+  EXPECT_THAT(told, ElementsAre(Pair(Scanning, 0), Pair(Scanning, 100), Pair(Scanning, 200),
+                                Pair(Scanning, 230), Pair(Importing, 0), Pair(Importing, 100),
+                                Pair(Importing, 200), Pair(Importing, 230)));
 }
 
 }  // namespace
