@@ -44,7 +44,8 @@ struct MaskForm {
 /// Opens `frmMask`. Throws Refusal while the main menu does not offer it.
 MaskForm OpenMaskForm(const SurveyState& state);
 
-/// The keystroke filter of `Text1`: digits alone, 5 at most. False, after a beep, for any other character.
+/// The keystroke filter of `Text1`: digits and backspace. False, after a beep, for any
+/// other character.
 bool KeyInSiteNumber(char32_t character, Dialogs& dialogs);
 
 /// `Command1` "Select Site": acts on the number in `Text1`, whatever state the site is in.
