@@ -7,6 +7,7 @@
 #include <QTableWidget>
 
 #include <algorithm>
+#include <cstddef>
 #include <string>
 #include <utility>
 #include <vector>
@@ -42,17 +43,22 @@ QTableWidget* MakeSiteTable(QWidget* parent, const SurveyState& state, const Tex
   QTableWidget* widget = MakeTextTable(parent, "sites", widest);
   widget->horizontalHeader()->setStretchLastSection(false);
   widget->horizontalHeader()->setHighlightSections(false);
+  widget->setSortingEnabled(false);  // no room for its arrow, which would go with the first sites
   widget->resizeColumnsToContents();
+  widget->setSortingEnabled(true);
   FillSiteTable(*widget, sites);
   return widget;
 }
 
 void FillSiteTable(QTableWidget& widget, const TextTable& sites)
 {
-  if (sites.Rows.empty()) {
-    widget.setRowCount(0);  // the columns keep their width
-  } else {
-    FillTextTable(widget, sites);
+  std::vector<int> widths;  // of columns, which never narrow: the window keeps its shape
+  for (int column = 0; column < widget.columnCount(); ++column) {
+    widths.push_back(widget.columnWidth(column));
+  }
+  FillTextTable(widget, sites);
+  for (int column = 0; column < widget.columnCount(); ++column) {
+    widget.setColumnWidth(column, qMax(widget.columnWidth(column), widths[static_cast<std::size_t>(column)]));
   }
 }
 
