@@ -61,8 +61,10 @@ TextTable ListDesignSites(const SurveyState& state, const std::optional<Design>&
   AddHeadings(table.Headings, state, "Target ");
   AddHeadings(table.Headings, state, "z");
   table.Headings.emplace_back("Support");
-  const int points = design ? design->PointCount() : 0;
-  for (int point = 1; point <= points; ++point) {
+  if (!design) {
+    return table;
+  }
+  for (int point = 1; point <= design->PointCount(); ++point) {
     const auto index = static_cast<std::size_t>(point) - 1;
     const CandidateSite& site = design->Sites.at(index)[0];
     if (!site.Exists()) {

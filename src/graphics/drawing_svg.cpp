@@ -347,9 +347,9 @@ std::string Body(const Drawing& drawing, const TwipSurface& surface)
   const std::size_t end = std::clamp(drawing.Clip->End, begin, marks.size());
   const UnitPoint a = surface.At(drawing.Clip->First);
   const UnitPoint b = surface.At(drawing.Clip->Second);
-  std::string clip = "<clipPath id=\"box\"><rect x=\"" + Number(std::min(a.X, b.X)) + "\" y=\"" +
-                     Number(std::min(a.Y, b.Y)) + "\" width=\"" + Number(std::abs(a.X - b.X)) +
-                     "\" height=\"" + Number(std::abs(a.Y - b.Y)) + "\"/></clipPath>\n";
+  const std::string clip = R"(<clipPath id="box"><rect x=")" + Number(std::min(a.X, b.X)) + "\" y=\"" +
+                           Number(std::min(a.Y, b.Y)) + "\" width=\"" + Number(std::abs(a.X - b.X)) +
+                           "\" height=\"" + Number(std::abs(a.Y - b.Y)) + "\"/></clipPath>\n";
   return clip + ElementsOf(surface, marks.first(begin)) + "<g clip-path=\"url(#box)\">\n" +
          ElementsOf(surface, marks.subspan(begin, end - begin)) + "</g>\n" +
          ElementsOf(surface, marks.subspan(end));

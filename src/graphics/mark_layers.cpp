@@ -66,12 +66,18 @@ void MarkLayers::AddRun(std::int32_t row, double left, double right)
   runs_.push_back({row, columnAt(left), columnAt(right) + 1});
 }
 
+std::size_t MarkLayers::CellIndex(std::int32_t row, std::int32_t column) const
+{
+  return static_cast<std::size_t>(row) * static_cast<std::size_t>(columns_) +
+         static_cast<std::size_t>(column);
+}
+
 std::int32_t MarkLayers::HighestUnder(Colour ink) const
 {
   std::int32_t highest = -1;
   for (const CellRun& run : runs_) {
     for (std::int32_t column = run.First; column < run.End; ++column) {
-      const Cell& cell = cells_[static_cast<std::size_t>(run.Row * columns_ + column)];
+      const Cell& cell = cells_[CellIndex(run.Row, column)];
       highest = std::max(highest, cell.Ink == ink ? cell.Other : cell.Top);
     }
   }
@@ -82,7 +88,7 @@ void MarkLayers::Cover(std::int32_t layer, Colour ink)
 {
   for (const CellRun& run : runs_) {
     for (std::int32_t column = run.First; column < run.End; ++column) {
-      Cell& cell = cells_[static_cast<std::size_t>(run.Row * columns_ + column)];
+      Cell& cell = cells_[CellIndex(run.Row, column)];
       if (cell.Ink == ink) {
         cell.Top = std::max(cell.Top, layer);
       } else if (layer > cell.Top) {

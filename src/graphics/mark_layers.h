@@ -47,6 +47,7 @@ class MarkLayers {
     std::int32_t Row, First, End;
   };
 
+  [[nodiscard]] std::size_t CellIndex(std::int32_t row, std::int32_t column) const;
   void CoverCells(UnitPoint from, UnitPoint to, double reach);
   void AddRun(std::int32_t row, double left, double right);
   [[nodiscard]] std::int32_t HighestUnder(Colour ink) const;
