@@ -104,6 +104,15 @@ int ReadHundredths(const std::string& option, const std::string& text, int lowes
   return static_cast<int>(hundredths);
 }
 
+int ReadWholeNumber(const std::string& option, const std::string& text, int lowest, int highest)
+{
+  const auto value = ReadWhole(text);
+  if (!value || *value < lowest || *value > highest) {
+    RefuseValue(option, text, "a whole number from " + GeneralForm(lowest) + " to " + GeneralForm(highest));
+  }
+  return *value;
+}
+
 CoordinateTranslation ReadTranslation(const std::string& option, const std::string& text)
 {
   constexpr std::string_view Rotation = "rotate=";

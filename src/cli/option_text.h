@@ -32,6 +32,9 @@ struct SelectionOption {
 /// hundredths.
 int ReadHundredths(const std::string& option, const std::string& text, int lowest, int highest);
 
+/// A whole number between `lowest` and `highest`.
+int ReadWholeNumber(const std::string& option, const std::string& text, int lowest, int highest);
+
 /// `swap`, `rotate=DEG` (whole degrees, -180 to 180), `reverse-x` or `reverse-y`.
 CoordinateTranslation ReadTranslation(const std::string& option, const std::string& text);
 

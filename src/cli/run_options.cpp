@@ -32,6 +32,9 @@ struct RawOptions {
   std::optional<std::string> EdgeBuffer, Reduction, Selection, Manual;
   bool Transition = false, TransitionFile = false;
   std::vector<std::string> Designs;
+  std::vector<std::string> Pictures;
+  std::string Palette = "1", SymbolSize = "4", Decimals = "2", Direction = "ew";
+  bool NoHighlightSamples = false, NoHighlightMasked = false;
   bool NoExport = false, Json = false, Quiet = false;
 };
 
@@ -95,6 +98,26 @@ void AddDesignOptions(CLI::App& run, RawOptions& raw)
       "Make and save a design of 6, 12 or 20 sites (5, 10 or 18 without support sites); repeatable, at "
       "most 5 (default: one of 12 when nothing else is asked for)");
   run.add_flag("--no-export", raw.NoExport, "Leave data.svy unwritten");
+}
+
+void AddPictureOptions(CLI::App& run, RawOptions& raw)
+{
+  AddRepeatable(
+      run, "--plot", raw.Pictures, "KIND=FILE.svg",
+      "Draw a picture at the end, as SVG; repeatable. KIND: grid, s1-x, s1-y, s2-x, s2-y, s1-s2, rsd, "
+      "line-s1:ROW, line-s2:ROW, line-s1s2:ROW, hist-s1, hist-s2, hist-z1, hist-z2, hist-ta, map-s1, map-s2, "
+      "map-z1, map-z2, map-ta, sites:N (design 1 to 5, 6 the manual one)");
+  AddValue(run, "--palette", raw.Palette, "1..4", "Colours of the maps, 4 is grey (default: 1)");
+  AddValue(run, "--symbol-size", raw.SymbolSize, "1..10", "Width of the maps' dots in pixels (default: 4)");
+  AddValue(run, "--decimals", raw.Decimals, "2..5", "Decimal places of coordinates on axes (default: 2)");
+  run.add_flag("--no-highlight-samples", raw.NoHighlightSamples, "Draw sample sites like all others");
+  run.add_flag("--no-highlight-masked", raw.NoHighlightMasked,
+               "Draw masked and outlier sites like all others");
+  AddValue(run, "--direction", raw.Direction, "ns|ew", "Direction of the transect rows (default: ew)");
+}
+
+void AddOutputOptions(CLI::App& run, RawOptions& raw)
+{
   run.add_flag("--json", raw.Json, "One JSON document on standard output");
   run.add_flag("--quiet", raw.Quiet, "Nothing on standard output");
 }
@@ -230,6 +253,19 @@ void ReadDesigns(const RawOptions& raw, RunOptions& options)
   }
 }
 
+void ReadPictureOptions(const RawOptions& raw, RunOptions& options)
+{
+  RequireOneOf("--direction", raw.Direction, {"ns", "ew"});
+  options.Pictures = ReadPictures(raw.Pictures, {options.Import.Layout, options.TransitionAnalysis});
+  options.PictureStyle.Choices = {
+      ReadWholeNumber("--palette", raw.Palette, 1, PaletteCount),
+      ReadWholeNumber("--decimals", raw.Decimals, FewestPlaces, MostPlaces),
+      ReadWholeNumber("--symbol-size", raw.SymbolSize, SmallestSymbol, LargestSymbol)};
+  options.PictureStyle.HighlightSamples = !raw.NoHighlightSamples;
+  options.PictureStyle.HighlightMasked = !raw.NoHighlightMasked;
+  options.PictureStyle.NorthSouth = raw.Direction == "ns";
+}
+
 RunOptions ApplyRules(const RawOptions& raw)
 {
   RunOptions options;
@@ -237,6 +273,7 @@ RunOptions ApplyRules(const RawOptions& raw)
   ReadImport(raw, options);
   ReadAnalysis(raw, options);
   ReadDesigns(raw, options);
+  ReadPictureOptions(raw, options);
   options.Export = !raw.NoExport;
   options.Json = raw.Json;
   options.Quiet = raw.Quiet;
@@ -276,6 +313,8 @@ CommandLine ReadCommandLine(const std::vector<std::string>& arguments)
   AddSurveyOptions(run, raw);
   AddAnalysisOptions(run, raw);
   AddDesignOptions(run, raw);
+  AddPictureOptions(run, raw);
+  AddOutputOptions(run, raw);
   try {
     const std::vector<std::string> words = WriteOutEmptyValues(run, arguments);
     app.parse(std::vector<std::string>(words.rbegin(), words.rend()));

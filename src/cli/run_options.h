@@ -1,6 +1,7 @@
 #pragma once
 
 #include "cli/option_text.h"
+#include "cli/picture_option.h"
 #include "signal/decorrelation.h"
 #include "survey/survey_import.h"
 
@@ -30,6 +31,8 @@ struct RunOptions {
   std::vector<DesignOption> Designs;
   std::vector<double> ManualSites;
   bool Export = true;
+  std::vector<PictureOption> Pictures;
+  PictureSettings PictureStyle;
   bool Json = false;
   bool Quiet = false;
 };

@@ -4,6 +4,7 @@
 #include "cli/progress_text.h"
 #include "cli/run_json.h"
 #include "cli/run_record.h"
+#include "cli/survey_pictures.h"
 #include "design/auto_selection.h"
 #include "design/manual_design.h"
 #include "design/srs_form.h"
@@ -15,6 +16,7 @@
 #include "survey/statistics.h"
 #include "survey/survey_export.h"
 #include "toolkit/clock.h"
+#include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
 #include "workspace/project.h"
@@ -80,6 +82,7 @@ class SurveyRun {
       MakeOneDesign(design);
     }
     Export();
+    DrawPictures();
     progress_.FileList(record_.Files);
     if (options_.Json) {
       record_.Notes = dialogs_.Notes();
@@ -328,6 +331,19 @@ class SurveyRun {
     }
     record_.Files.push_back(result.Path);
     progress_.Step("Export", GeneralForm(state_.SurveySize) + " lines in " + result.Path.filename().string());
+  }
+
+  void DrawPictures()
+  {
+    if (options_.Pictures.empty()) {
+      return;
+    }
+    const auto files = ComposePictures(state_, options_.Pictures, options_.PictureStyle);
+    WriteFiles(files);
+    for (const ComposedFile& file : files) {
+      record_.Files.push_back(file.Path);
+    }
+    progress_.Step("Pictures", Count(files.size(), "picture") + " drawn");
   }
 
   const RunOptions& options_;

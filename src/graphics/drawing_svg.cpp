@@ -1,0 +1,307 @@
+#include "graphics/drawing_svg.h"
+
+#include "graphics/mark_layers.h"
+#include "toolkit/number_text.h"
+#include "toolkit/utf8.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <cstddef>
+#include <cstdint>
+#include <optional>
+#include <span>
+#include <utility>
+#include <variant>
+#include <vector>
+
+namespace veln {
+
+namespace {
+
+constexpr double TwipsPerPixel = 15;
+constexpr double TwipsPerPoint = 20;
+constexpr double Far = 1E+6;  // twips, out of sight on every surface
+
+void Append(std::string& text, std::int32_t number)
+{
+  std::array<char, 12> digits{};
+  text.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr);
+}
+
+std::string Number(double value)
+{
+  return FormatNumber(value, "0.###");
+}
+
+std::string HexColour(Colour ink)
+{
+  constexpr const char* Digits = "0123456789abcdef";
+  constexpr unsigned Sixteen = 16;
+  std::string text = "#";
+  for (const unsigned part : {ink.Red, ink.Green, ink.Blue}) {
+    text += Digits[part / Sixteen];
+    text += Digits[part % Sixteen];
+  }
+  return text;
+}
+
+/// Text as XML holds it. Control characters and bytes that are not UTF-8 have no place there.
+std::string Escaped(const std::string& text)
+{
+  constexpr unsigned char FirstPlain = 0x20;
+  constexpr unsigned char FirstMultibyte = 0x80;
+  const bool readable = IsUtf8(text);
+  std::string escaped;
+  for (const char c : text) {
+    const auto byte = static_cast<unsigned char>(c);
+    if (byte < FirstPlain || (!readable && byte >= FirstMultibyte)) {
+      escaped += "?";
+    } else if (c == '&') {
+      escaped += "&amp;";
+    } else if (c == '<') {
+      escaped += "&lt;";
+    } else if (c == '>') {
+      escaped += "&gt;";
+    } else {
+      escaped += c;
+    }
+  }
+  return escaped;
+}
+
+/// A surface in twips.
+struct TwipSurface {
+  explicit TwipSurface(const Drawing& drawing)
+      : Left(drawing.ScaleLeft),
+        Top(drawing.ScaleTop),
+        PerUnit(drawing.PixelWidth * TwipsPerPixel / drawing.ScaleWidth),
+        PixelHeight(std::round(drawing.PixelWidth * drawing.ScaleHeight / drawing.ScaleWidth)),
+        Width(static_cast<std::int32_t>(drawing.PixelWidth * TwipsPerPixel)),
+        Height(static_cast<std::int32_t>(PixelHeight * TwipsPerPixel))
+  {
+  }
+
+  /// Far places are drawn in to where they are still out of sight.
+  [[nodiscard]] UnitPoint At(DrawPoint point) const
+  {
+    const auto whole = [](double value) {
+      return static_cast<std::int32_t>(std::lround(std::isnan(value) ? Far : std::clamp(value, -Far, Far)));
+    };
+    return {whole((point.X - Left) * PerUnit), whole((point.Y - Top) * PerUnit)};
+  }
+
+  double Left, Top, PerUnit, PixelHeight;
+  std::int32_t Width, Height;
+};
+
+/// One element of the document: a path of dots and lines of one pen, or anything else as it stands.
+struct Element {
+  std::optional<Pen> Stroke;  // of a path
+  std::string Content;        // the path's data
+  UnitPoint Current, LastFrom;
+};
+
+/// Turns marks into elements, in layers that keep the picture of their order.
+class ElementWriter {
+ public:
+  explicit ElementWriter(const TwipSurface& surface)
+      : surface_(surface), layers_(surface.Width, surface.Height, static_cast<std::int32_t>(TwipsPerPixel))
+  {
+  }
+
+  void Write(std::span<const DrawMark> marks)
+  {
+    for (std::size_t i = 0; i < marks.size(); ++i) {
+      const auto* dot = std::get_if<DotMark>(&marks[i]);
+      if (dot == nullptr || !IsHidden(*dot, marks.subspan(i + 1))) {
+        std::visit(*this, marks[i]);
+      }
+    }
+  }
+
+  void operator()(const DotMark& dot)
+  {
+    const UnitPoint at = surface_.At(dot.At);
+    if (Element* path = PathFor(at, at, dot.Stroke)) {
+      Move(*path, at);
+      path->Content += "h0";
+    }
+  }
+  void operator()(const LineMark& line)
+  {
+    const UnitPoint from = surface_.At(line.From);
+    const UnitPoint to = surface_.At(line.To);
+    if (Element* path = PathFor(from, to, line.Stroke)) {
+      Join(*path, from, to);
+    }
+  }
+  void operator()(const BoxMark& box)
+  {
+    const UnitPoint a = surface_.At(box.First);
+    const UnitPoint b = surface_.At(box.Second);
+    const auto pen = static_cast<std::int32_t>(box.Stroke.Width * TwipsPerPixel);
+    UnitPoint corner{std::min(a.X, b.X), std::min(a.Y, b.Y)};
+    UnitPoint size{std::abs(a.X - b.X), std::abs(a.Y - b.Y)};
+    if (box.Filled) {  // at least as thick as its pen
+      corner = {corner.X - std::max(0, pen - size.X) / 2, corner.Y - std::max(0, pen - size.Y) / 2};
+      size = {std::max(size.X, pen), std::max(size.Y, pen)};
+    }
+    std::string text = "<rect";
+    for (const auto& [name, value] : {std::pair{" x=\"", corner.X}, std::pair{" y=\"", corner.Y},
+                                      std::pair{" width=\"", size.X}, std::pair{" height=\"", size.Y}}) {
+      text += name;
+      Append(text, value);
+      text += '"';
+    }
+    text += box.Filled
+                ? " fill=\"" + HexColour(box.Stroke.Ink) + "\"/>"
+                : " stroke=\"" + HexColour(box.Stroke.Ink) + "\" stroke-width=\"" + Number(pen) + "\"/>";
+    Alone(text);
+  }
+  void operator()(const TextMark& text)
+  {
+    constexpr double Ascent = 0.92;  // of the font size, from a text's top to its baseline
+    const double size = text.FontSize * TwipsPerPoint;
+    const UnitPoint at = surface_.At(text.At);
+    std::string element = "<text x=\"" + Number(at.X) + "\" y=\"" + Number(at.Y + std::round(Ascent * size)) +
+                          "\" font-size=\"" + Number(size) + "\" fill=\"" + HexColour(text.Ink) + "\"";
+    if (text.Bold) {
+      element += " font-weight=\"bold\"";
+    }
+    if (text.Anchor != TextAnchor::Start) {
+      element += text.Anchor == TextAnchor::Middle ? " text-anchor=\"middle\"" : " text-anchor=\"end\"";
+    }
+    if (text.Text.starts_with(' ') || text.Text.ends_with(' ') || text.Text.find("  ") != std::string::npos) {
+      element += " xml:space=\"preserve\"";
+    }
+    Alone(element + ">" + Escaped(text.Text) + "</text>");
+  }
+
+  [[nodiscard]] std::string Text() const
+  {
+    std::string text;
+    for (const Element& element : elements_) {
+      if (element.Stroke) {
+        text += "<path stroke=\"" + HexColour(element.Stroke->Ink) + "\" stroke-width=\"" +
+                Number(element.Stroke->Width * TwipsPerPixel) + "\" d=\"" + element.Content + "\"/>\n";
+      } else {
+        text += element.Content + "\n";
+      }
+    }
+    return text;
+  }
+
+ private:
+  /// Whether one of the next two marks is a dot that covers this one all over, as a highlight does.
+  static bool IsHidden(const DotMark& dot, std::span<const DrawMark> next)
+  {
+    return std::ranges::any_of(next.first(std::min<std::size_t>(next.size(), 2)), [&dot](const auto& mark) {
+      const auto* cover = std::get_if<DotMark>(&mark);
+      return cover != nullptr && cover->At == dot.At && cover->Stroke.Width >= dot.Stroke.Width;
+    });
+  }
+
+  Element* PathFor(UnitPoint from, UnitPoint to, const Pen& pen)
+  {
+    const double width = pen.Width * TwipsPerPixel;
+    if (!layers_.Touches(from, to, width)) {
+      return nullptr;
+    }
+    const std::size_t layer = layers_.Place(from, to, pen, width);
+    if (layer == elements_.size()) {
+      elements_.push_back({pen, "", {-1, -1}, {-1, -1}});
+    }
+    return &elements_.at(layer);
+  }
+
+  void Alone(const std::string& text)
+  {
+    layers_.PlaceAlone();
+    elements_.push_back({std::nullopt, text, {}, {}});
+  }
+
+  static void Put(std::string& data, char command, UnitPoint at)
+  {
+    data += command;
+    Append(data, at.X);
+    data += at.Y < 0 ? "" : ",";
+    Append(data, at.Y);
+  }
+
+  static void Move(Element& path, UnitPoint to)
+  {
+    Put(path.Content, 'M', to);
+    path.Current = to;
+  }
+
+  /// Goes on from where the path stands when it can: along a row, or to and fro for rays from one point.
+  static void Join(Element& path, UnitPoint from, UnitPoint to)
+  {
+    const UnitPoint start = from;
+    if (path.Current == to) {
+      std::swap(from, to);
+    } else if (path.Current != from) {
+      if (path.LastFrom == from) {
+        std::swap(from, to);
+      }
+      Move(path, from);
+    }
+    Put(path.Content, 'L', to);
+    path.Current = to;
+    path.LastFrom = start;
+  }
+
+  const TwipSurface& surface_;
+  MarkLayers layers_;
+  std::vector<Element> elements_;
+};
+
+std::string ElementsOf(const TwipSurface& surface, std::span<const DrawMark> marks)
+{
+  if (marks.empty()) {
+    return "";
+  }
+  ElementWriter writer(surface);
+  writer.Write(marks);
+  return writer.Text();
+}
+
+/// The marks of a drawing: before, inside and behind its clipping.
+std::string Body(const Drawing& drawing, const TwipSurface& surface)
+{
+  const std::span<const DrawMark> marks(drawing.Marks);
+  if (!drawing.Clip) {
+    return ElementsOf(surface, marks);
+  }
+  const std::size_t begin = std::min(drawing.Clip->Begin, marks.size());
+  const std::size_t end = std::clamp(drawing.Clip->End, begin, marks.size());
+  const UnitPoint a = surface.At(drawing.Clip->First);
+  const UnitPoint b = surface.At(drawing.Clip->Second);
+  std::string clip = "<clipPath id=\"box\"><rect x=\"" + Number(std::min(a.X, b.X)) + "\" y=\"" +
+                     Number(std::min(a.Y, b.Y)) + "\" width=\"" + Number(std::abs(a.X - b.X)) +
+                     "\" height=\"" + Number(std::abs(a.Y - b.Y)) + "\"/></clipPath>\n";
+  return clip + ElementsOf(surface, marks.first(begin)) + "<g clip-path=\"url(#box)\">\n" +
+         ElementsOf(surface, marks.subspan(begin, end - begin)) + "</g>\n" +
+         ElementsOf(surface, marks.subspan(end));
+}
+
+}  // namespace
+
+std::string SvgText(const Drawing& drawing, const std::string& title)
+{
+  const TwipSurface surface(drawing);
+  std::string text =
+      "<?xml version=\"1.0\" encoding=\"UTF-8\"?>\n<svg xmlns=\"http://www.w3.org/2000/svg\" "
+      "version=\"1.1\" width=\"" +
+      Number(drawing.PixelWidth) + "\" height=\"" + Number(surface.PixelHeight) + "\" viewBox=\"0 0 " +
+      Number(surface.Width) + " " + Number(surface.Height) +
+      "\" font-family=\"sans-serif\" fill=\"none\" stroke-linecap=\"round\">\n";
+  if (!title.empty()) {
+    text += "<title>" + Escaped(title) + "</title>\n";
+  }
+  return text + Body(drawing, surface) + "</svg>\n";
+}
+
+}  // namespace veln
