@@ -18,8 +18,8 @@ QImage DrawDot(const Pen& pen)
   dot.fill(Qt::transparent);
   QPainter painter(&dot);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(QPen(QColor(pen.Ink.Red, pen.Ink.Green, pen.Ink.Blue), pen.Width, Qt::SolidLine,
-                      Qt::RoundCap));
+  painter.setPen(
+      QPen(QColor(pen.Ink.Red, pen.Ink.Green, pen.Ink.Blue), pen.Width, Qt::SolidLine, Qt::RoundCap));
   painter.drawPoint(QPointF(side / 2.0, side / 2.0));
   return dot;
 }

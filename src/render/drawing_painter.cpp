@@ -50,9 +50,8 @@ void PaintDrawing(QPainter& painter, const Drawing& drawing, const DrawingFrame&
   paintMarks(0, begin);
   if (end > std::max(begin, first)) {
     painter.save();
-    painter.setClipRect(
-        QRectF(frame.Map(drawing, clip.First), frame.Map(drawing, clip.Second)).normalized(),
-        Qt::IntersectClip);
+    painter.setClipRect(QRectF(frame.Map(drawing, clip.First), frame.Map(drawing, clip.Second)).normalized(),
+                        Qt::IntersectClip);
     paintMarks(begin, end);
     painter.restore();
   }
