@@ -1,6 +1,13 @@
 // What holds of every window: names for a screen reader, the way through by Tab, and keys without a clash.
 
 #include "desktop/desktop_fixture.h"
+#include "desktop/graphics/frm_igc.h"
+#include "desktop/graphics/frm_legend.h"
+#include "desktop/graphics/frm_pct.h"
+#include "desktop/graphics/frm_site_map.h"
+#include "desktop/graphics/overlay_chooser.h"
+#include "desktop/graphics/picture_dialog.h"
+#include "desktop/graphics_fixture.h"
 #include "desktop/signal/frm_list.h"
 #include "desktop/signal/frm_sig_decorr.h"
 #include "desktop/signal/frm_sig_val.h"
@@ -40,12 +47,20 @@ struct Opening {
   std::function<void(Program&)> Show;
 };
 
+/// The graphics window with a plot in it.
+void Draw(Program& program, GraphEntry entry)
+{
+  program.Show<frmSvyGraph>()->Act(
+      [&](SurveyGraph& graph) { SelectGraph(graph, program.State, entry, program.Dither); });
+}
+
 std::vector<Opening> Openings()
 {
   const SurveyState imported = ImportedSurvey(SurveyWithOutlier());
   const SurveyState decorrelated = DecorrelatedSurvey(SurveyWithOutlier());
   SurveyState saved = AcceptedSurvey(SurveyWithOutlier());
   saved.ManualDesignDone = true;
+  const SurveyState designed = SurveyWithDesigns();
   return {
       {"frmProject", {}, [](Program& program) { program.Show<frmProject>(); }},
       {"frmFileIO", {}, [](Program& program) { program.Show<frmFileIO>(); }},
@@ -58,6 +73,22 @@ std::vector<Opening> Openings()
       {"frmSigVal", decorrelated, [](Program& program) { program.Show<frmSigVal>(); }},
       {"frmList", decorrelated, [](Program& program) { program.Show<frmList>(); }},
       {"frmOutFD", saved, [](Program& program) { program.Show<frmOutFD>(); }},
+      {"frmSvyGraph", designed, [](Program& program) { Draw(program, GraphEntry::mnuHs1); }},
+      {"frmIGC", designed, [](Program& program) { program.Show<frmIGC>(); }},
+      {"frmPCT", designed, [](Program& program) { program.Show<frmPCT>(); }},
+      {"frmLegend", designed, [](Program& program) { program.Show<frmLegend>(); }},
+      {"overlayChooser", designed,
+       [](Program& program) {
+         Draw(program, GraphEntry::mnuVs1);
+         program.Show<OverlayChooser>();
+       }},
+      {"pictureDialog", designed,
+       [](Program& program) {
+         auto* owner = program.Show<frmSiteMap>();
+         program.ShowWith<PictureDialog>(
+             [&](QWidget*) { return new PictureDialog(program, owner, {}, "map"); });
+       }},
+      {"frmSiteMap", designed, [](Program& program) { program.Show<frmSiteMap>(); }},
   };
 }
 

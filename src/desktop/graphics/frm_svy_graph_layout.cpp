@@ -6,7 +6,6 @@
 #include "graphics/site_text.h"
 
 #include <QAction>
-#include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
 #include <QKeyEvent>
@@ -123,18 +122,16 @@ QGroupBox* frmSvyGraph::MakeLinePanel()
   rowButtons_[1]->setMaximumWidth(arrow);
   rowButtons_[2]->setDefault(true);
 
-  auto* grid = new QGridLayout(frame);
-  grid->setSpacing(SmallGap);
+  auto* lines = new QVBoxLayout(frame);
+  lines->setSpacing(SmallGap);
   auto* number = new QHBoxLayout;
   number->addWidget(rowButtons_[1]);
   number->addWidget(row_, 1);
   number->addWidget(rowButtons_[0]);
-  grid->addLayout(number, 0, 0, 1, 2);
-  grid->addWidget(rowButtons_[2], 1, 0, 1, 2);
-  grid->addWidget(rowButtons_[5], 2, 0);
-  grid->addWidget(rowButtons_[6], 2, 1);
-  grid->addWidget(rowButtons_[3], 3, 0);
-  grid->addWidget(rowButtons_[4], 3, 1);
+  lines->addLayout(number);
+  for (const std::size_t button : {2, 5, 6, 3, 4}) {
+    lines->addWidget(rowButtons_.at(button));
+  }
   const auto act = [this](std::size_t button, std::function<void(SurveyGraph&)> action) {
     connect(rowButtons_.at(button), &QPushButton::clicked, this,
             [this, action = std::move(action)] { Act(action); });
