@@ -57,3 +57,15 @@ hold_build_tree() {
 release_build_tree() {
     exec 9>&-
 }
+
+# prepare_program_folder FOLDER: what the desktop program works in: projects, help, pictures, and settings to
+# begin with.
+prepare_program_folder() {
+    mkdir -p "$1/data" "$1/helpdocs" "$1/bitmap"
+    cp "$root"/helpdocs/*.rtf "$1/helpdocs/"
+    if [[ ! -e $1/VELN_te_fio_info.dat ]]; then
+        printf '%s\n' "VELN default Text Editor information:" " xdg-open" \
+            "VELN default raw survey Input File path information:" "$root/examples" \
+            "Default printer DPI: (1=300, 2=600, 4=1200 dpi)" 2 >"$1/VELN_te_fio_info.dat"
+    fi
+}

@@ -24,6 +24,7 @@ struct SelectionScores {
 struct Combination {
   int Stratum = 1;
   int FactorIndex = 1;
+  bool operator==(const Combination&) const = default;
 };
 
 /// The combinations that were tried, in their order: by stratum, and within a stratum by D-factor.

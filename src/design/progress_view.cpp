@@ -69,10 +69,12 @@ void ProgressView::MapReady()
   } else {
     rangeY_ = {Middle(field.Y) - hx, Middle(field.Y) + hx};
   }
+  const Pen freePen{QBColor(FreeSite), SiteWidth};
+  const Pen otherPen{QBColor(OtherSite), SiteWidth};
+  picture_.Marks.reserve(picture_.Marks.size() + state_.SiteStatus.size());
   for (std::size_t i = 0; i < state_.SiteStatus.size(); ++i) {
     const bool free = state_.SiteStatus[i] == site_status::Free;
-    picture_.PSet(Place(state_.CoordX[i], state_.CoordY[i]),
-                  {QBColor(free ? FreeSite : OtherSite), SiteWidth});
+    picture_.PSet(Place(state_.CoordX[i], state_.CoordY[i]), free ? freePen : otherPen);
   }
   repaint_();
 }

@@ -5,6 +5,7 @@
 #include "desktop/text_roles.h"
 
 #include <QEvent>
+#include <QFontMetrics>
 #include <QGuiApplication>
 #include <QPushButton>
 #include <QScreen>
@@ -21,6 +22,16 @@ QString GeometryKey(const QWidget& window)
   return "windows/" + window.objectName();
 }
 
+/// Width at which the title stands whole beside the icon and the buttons of the title bar.
+int TitleRoom(const QWidget& window)
+{
+  constexpr int Buttons = 12;  // in characters of average width
+  QFont bold = window.font();
+  bold.setBold(true);
+  const QFontMetrics metrics(bold);
+  return metrics.horizontalAdvance(window.windowTitle()) + Buttons * metrics.averageCharWidth();
+}
+
 }  // namespace
 
 ChildWindow::ChildWindow(Program& program, QWidget* parent, const Traits& traits)
@@ -33,6 +44,7 @@ ChildWindow::ChildWindow(Program& program, QWidget* parent, const Traits& traits
 {
   setObjectName(traits.Name);
   setWindowTitle(traits.Title);
+  setMinimumWidth(TitleRoom(*this));
   setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
                  Qt::WindowCloseButtonHint);
   if (!help_.empty()) {

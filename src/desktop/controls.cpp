@@ -2,6 +2,8 @@
 
 #include <QPainter>
 #include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
 #include <QSizePolicy>
 
 namespace veln {
@@ -85,6 +87,14 @@ QLabel* MakeText(QWidget* parent, const char* name, const QString& text)
   label->setTextFormat(Qt::PlainText);
   label->setWordWrap(true);
   return label;
+}
+
+void ShowOption(QRadioButton& option, bool selected)
+{
+  const QSignalBlocker quiet(option);
+  option.setAutoExclusive(false);  // an exclusive one cannot be cleared
+  option.setChecked(selected);
+  option.setAutoExclusive(true);
 }
 
 void KeepRoom(QWidget& widget)

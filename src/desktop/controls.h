@@ -7,6 +7,7 @@
 
 class QLineEdit;
 class QPushButton;
+class QRadioButton;
 class QWidget;
 
 namespace veln {
@@ -37,6 +38,10 @@ void ShowValue(QLabel& label, const QString& value);
 
 /// A label for given text, plain and wrapped where it is long.
 QLabel* MakeText(QWidget* parent, const char* name, const QString& text);
+
+/// Shows whether an option button is selected; several in a frame may all be clear. The arrow keys select
+/// among them.
+void ShowOption(QRadioButton& option, bool selected);
 
 /// Lets a widget keep its room while it is hidden, so that nothing jumps.
 void KeepRoom(QWidget& widget);

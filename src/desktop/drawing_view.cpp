@@ -19,6 +19,8 @@ DrawingView::DrawingView(QWidget* parent) : QWidget(parent)
   setMinimumSize(SmallestSide, SmallestSide);
   setMouseTracking(true);
   sinceRepaint_.start();
+  lastRepaint_.setSingleShot(true);
+  lastRepaint_.callOnTimeout(this, [this] { update(); });
 }
 
 void DrawingView::Show(const Drawing& drawing)
@@ -33,10 +35,11 @@ void DrawingView::Grown()
   if (drawing_ != nullptr && drawing_->Marks.size() < painted_) {
     picture_ = {};
   }
-  update();  // the last state shows in any case
-  if (isVisible() && sinceRepaint_.elapsed() >= RepaintMilliseconds) {
+  const qint64 elapsed = sinceRepaint_.elapsed();
+  if (!isVisible() || elapsed >= RepaintMilliseconds) {
     repaint();
-    sinceRepaint_.restart();
+  } else if (!lastRepaint_.isActive()) {
+    lastRepaint_.start(static_cast<int>(RepaintMilliseconds - elapsed));  // the last state shows in any case
   }
 }
 
@@ -55,7 +58,7 @@ void DrawingView::BringPictureUpToDate()
 {
   const QSize wanted = size() * devicePixelRatioF();
   if (picture_.size() != wanted) {
-    picture_ = QPixmap(wanted);
+    picture_ = QImage(wanted, QImage::Format_RGB32);
     picture_.fill(palette().color(QPalette::Window));
     painted_ = 0;
   }
@@ -73,9 +76,10 @@ void DrawingView::paintEvent(QPaintEvent* /*event*/)
   if (drawing_ == nullptr) {
     return;
   }
+  lastRepaint_.stop();
   BringPictureUpToDate();
   QPainter painter(this);
-  painter.drawPixmap(0, 0, picture_);
+  painter.drawImage(0, 0, picture_);
   if (ring_) {
     constexpr double Radius = 7;
     const DrawingFrame frame = FitDrawing(*drawing_, rect());
@@ -83,6 +87,7 @@ void DrawingView::paintEvent(QPaintEvent* /*event*/)
     painter.setPen(QPen(Qt::black, 2));
     painter.drawEllipse(frame.Map(*drawing_, *ring_), Radius, Radius);
   }
+  sinceRepaint_.restart();
 }
 
 void DrawingView::mouseMoveEvent(QMouseEvent* event)

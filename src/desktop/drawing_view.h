@@ -3,7 +3,8 @@
 #include "toolkit/drawing.h"
 
 #include <QElapsedTimer>
-#include <QPixmap>
+#include <QImage>
+#include <QTimer>
 #include <QWidget>
 
 #include <functional>
@@ -39,9 +40,10 @@ class DrawingView : public QWidget {
   void BringPictureUpToDate();
 
   const Drawing* drawing_ = nullptr;
-  QPixmap picture_;
+  QImage picture_;
   std::size_t painted_ = 0;  // marks of the drawing that the picture holds
   QElapsedTimer sinceRepaint_;
+  QTimer lastRepaint_;  // for what has come since
   std::optional<DrawPoint> ring_;
 };
 

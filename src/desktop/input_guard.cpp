@@ -44,7 +44,9 @@ InputGuard::~InputGuard()
 
 bool InputGuard::eventFilter(QObject* object, QEvent* event)
 {
-  if (!object->isWidgetType() || object == open_ || !IsInput(event->type())) {
+  // A menu's or a window's key goes to its action or shortcut, everything else to a widget.
+  const bool mine = object->isWidgetType() || event->type() == QEvent::Shortcut;
+  if (!mine || object == open_ || !IsInput(event->type())) {
     return false;
   }
   if (event->type() == QEvent::Close) {

@@ -6,6 +6,7 @@
 
 #include <QApplication>
 #include <QSettings>
+#include <QTemporaryDir>
 
 #include <filesystem>
 
@@ -15,6 +16,9 @@ int main(int argc, char** argv)
   QApplication::setOrganizationName("Norvane Laboratory");
   QApplication::setApplicationName("VELN-QTRD");
   QSettings settings;
+  // The toolkit's file dialogs would remember the folders they showed; they forget them with this run.
+  const QTemporaryDir forgotten;
+  QSettings::setPath(QSettings::NativeFormat, QSettings::UserScope, forgotten.path());
   veln::QtDialogs dialogs;
   veln::Program program(dialogs, veln::SystemDateTime, settings);
   program.State.ProgramDir = std::filesystem::current_path();

@@ -10,7 +10,8 @@
 #include <cmath>
 #include <cstddef>
 #include <cstdint>
-#include <optional>
+#include <limits>
+#include <map>
 #include <span>
 #include <utility>
 #include <variant>
@@ -23,6 +24,7 @@ namespace {
 constexpr double TwipsPerPixel = 15;
 constexpr double TwipsPerPoint = 20;
 constexpr double Far = 1E+6;  // twips, out of sight on every surface
+constexpr UnitPoint Nowhere{std::numeric_limits<std::int32_t>::min(), 0};
 
 void Append(std::string& text, std::int32_t number)
 {
@@ -45,6 +47,48 @@ std::string HexColour(Colour ink)
     text += Digits[part % Sixteen];
   }
   return text;
+}
+
+/// The style class of a pen: short, since it stands at each path, and told by the pen alone, so that pictures
+/// can share a page.
+std::string ClassOf(const Pen& pen)
+{
+  constexpr int Base = 36;
+  constexpr int Thousandths = 1000;
+  const unsigned ink = unsigned{pen.Ink.Red} << 16U | unsigned{pen.Ink.Green} << 8U | pen.Ink.Blue;
+  std::array<char, 8> digits{};
+  char* const end = std::to_chars(digits.data(), digits.data() + digits.size(), ink, Base).ptr;
+  const auto whole = static_cast<int>(pen.Width);
+  std::string name(1, static_cast<char>('a' + std::clamp(whole - 1, 0, 25)));
+  name.append(digits.data(), end);
+  if (pen.Width != whole || whole < 1 || whole > 26) {
+    name += "-" + std::to_string(std::lround(pen.Width * Thousandths));
+  }
+  return name;
+}
+
+/// The style of every pen that a path of the drawing may have.
+std::string StyleSheet(const Drawing& drawing)
+{
+  std::map<std::string, Pen> pens;
+  Pen last{{}, -1};
+  for (const DrawMark& mark : drawing.Marks) {
+    const auto* dot = std::get_if<DotMark>(&mark);
+    const auto* line = std::get_if<LineMark>(&mark);
+    if (dot != nullptr || line != nullptr) {
+      const Pen& pen = dot != nullptr ? dot->Stroke : line->Stroke;
+      if (pen != last) {
+        pens.emplace(ClassOf(pen), pen);
+        last = pen;
+      }
+    }
+  }
+  std::string text;
+  for (const auto& [name, pen] : pens) {
+    text += "." + name + "{stroke:" + HexColour(pen.Ink) +
+            ";stroke-width:" + Number(pen.Width * TwipsPerPixel) + "}";
+  }
+  return text.empty() ? "" : "<style type=\"text/css\">" + text + "</style>\n";
 }
 
 /// Text as XML holds it. Control characters and bytes that are not UTF-8 have no place there.
@@ -96,18 +140,43 @@ struct TwipSurface {
   std::int32_t Width, Height;
 };
 
-/// One element of the document: a path of dots and lines of one pen, or anything else as it stands.
-struct Element {
-  std::optional<Pen> Stroke;  // of a path
-  std::string Content;        // the path's data
-  UnitPoint Current, LastFrom;
+/// A command of a path with a place.
+struct PathWord {
+  PathWord(char command, UnitPoint at)
+  {
+    Text[0] = command;
+    char* end = std::to_chars(Text.data() + 1, Text.data() + Text.size(), at.X).ptr;
+    if (at.Y >= 0) {
+      *end++ = ',';
+    }
+    end = std::to_chars(end, Text.data() + Text.size(), at.Y).ptr;
+    Size = static_cast<std::size_t>(end - Text.data());
+  }
+
+  std::array<char, 32> Text;
+  std::size_t Size;
 };
 
-/// Turns marks into elements, in layers that keep the picture of their order.
+/// The data of a path of one pen width, and where its last piece ended and began.
+struct PathData {
+  double PenWidth = 1;
+  std::string Data;
+  UnitPoint Current = Nowhere;
+  UnitPoint LastFrom = Nowhere;
+};
+
+/// A layer of the document: paths of one colour, or anything else as it stands.
+struct Layer {
+  Colour Ink;
+  std::vector<PathData> Paths;
+  std::string Other;
+};
+
+/// Turns marks into layers that keep the picture of their order.
 class ElementWriter {
  public:
   explicit ElementWriter(const TwipSurface& surface)
-      : surface_(surface), layers_(surface.Width, surface.Height, static_cast<std::int32_t>(TwipsPerPixel))
+      : surface_(surface), sorter_(surface.Width, surface.Height, static_cast<std::int32_t>(TwipsPerPixel))
   {
   }
 
@@ -124,16 +193,16 @@ class ElementWriter {
   void operator()(const DotMark& dot)
   {
     const UnitPoint at = surface_.At(dot.At);
-    if (Element* path = PathFor(at, at, dot.Stroke)) {
+    if (PathData* path = PathFor(at, at, dot.Stroke)) {
       Move(*path, at);
-      path->Content += "h0";
+      path->Data += "h0";
     }
   }
   void operator()(const LineMark& line)
   {
     const UnitPoint from = surface_.At(line.From);
     const UnitPoint to = surface_.At(line.To);
-    if (Element* path = PathFor(from, to, line.Stroke)) {
+    if (PathData* path = PathFor(from, to, line.Stroke)) {
       Join(*path, from, to);
     }
   }
@@ -182,13 +251,11 @@ class ElementWriter {
   [[nodiscard]] std::string Text() const
   {
     std::string text;
-    for (const Element& element : elements_) {
-      if (element.Stroke) {
-        text += "<path stroke=\"" + HexColour(element.Stroke->Ink) + "\" stroke-width=\"" +
-                Number(element.Stroke->Width * TwipsPerPixel) + "\" d=\"" + element.Content + "\"/>\n";
-      } else {
-        text += element.Content + "\n";
+    for (const Layer& layer : layers_) {
+      for (const PathData& path : layer.Paths) {
+        text += "<path class=\"" + ClassOf({layer.Ink, path.PenWidth}) + "\" d=\"" + path.Data + "\"/>\n";
       }
+      text += layer.Other;
     }
     return text;
   }
@@ -203,41 +270,43 @@ class ElementWriter {
     });
   }
 
-  Element* PathFor(UnitPoint from, UnitPoint to, const Pen& pen)
+  PathData* PathFor(UnitPoint from, UnitPoint to, const Pen& pen)
   {
     const double width = pen.Width * TwipsPerPixel;
-    if (!layers_.Touches(from, to, width)) {
+    if (!sorter_.Touches(from, to, width)) {
       return nullptr;
     }
-    const std::size_t layer = layers_.Place(from, to, pen, width);
-    if (layer == elements_.size()) {
-      elements_.push_back({pen, "", {-1, -1}, {-1, -1}});
+    const std::size_t place = sorter_.Place(from, to, pen.Ink, width);
+    if (place == layers_.size()) {
+      layers_.push_back({pen.Ink, {}, ""});
     }
-    return &elements_.at(layer);
+    std::vector<PathData>& paths = layers_.at(place).Paths;
+    const auto found = std::ranges::find(paths, pen.Width, &PathData::PenWidth);
+    return found != paths.end() ? &*found : &paths.emplace_back(PathData{pen.Width, "", Nowhere, Nowhere});
   }
 
   void Alone(const std::string& text)
   {
-    layers_.PlaceAlone();
-    elements_.push_back({std::nullopt, text, {}, {}});
+    sorter_.PlaceAlone();
+    layers_.push_back({{}, {}, text + "\n"});
   }
 
-  static void Put(std::string& data, char command, UnitPoint at)
+  /// Goes to a place by its coordinates or by the way from where the path stands, whichever is shorter.
+  static void Go(PathData& path, char absolute, char relative, UnitPoint to)
   {
-    data += command;
-    Append(data, at.X);
-    data += at.Y < 0 ? "" : ",";
-    Append(data, at.Y);
-  }
-
-  static void Move(Element& path, UnitPoint to)
-  {
-    Put(path.Content, 'M', to);
+    PathWord word(absolute, to);
+    if (!path.Data.empty()) {
+      const PathWord way(relative, {to.X - path.Current.X, to.Y - path.Current.Y});
+      word = way.Size < word.Size ? way : word;
+    }
+    path.Data.append(word.Text.data(), word.Size);
     path.Current = to;
   }
 
+  static void Move(PathData& path, UnitPoint to) { Go(path, 'M', 'm', to); }
+
   /// Goes on from where the path stands when it can: along a row, or to and fro for rays from one point.
-  static void Join(Element& path, UnitPoint from, UnitPoint to)
+  static void Join(PathData& path, UnitPoint from, UnitPoint to)
   {
     const UnitPoint start = from;
     if (path.Current == to) {
@@ -248,14 +317,13 @@ class ElementWriter {
       }
       Move(path, from);
     }
-    Put(path.Content, 'L', to);
-    path.Current = to;
+    Go(path, 'L', 'l', to);
     path.LastFrom = start;
   }
 
   const TwipSurface& surface_;
-  MarkLayers layers_;
-  std::vector<Element> elements_;
+  MarkLayers sorter_;
+  std::vector<Layer> layers_;
 };
 
 std::string ElementsOf(const TwipSurface& surface, std::span<const DrawMark> marks)
@@ -301,7 +369,7 @@ std::string SvgText(const Drawing& drawing, const std::string& title)
   if (!title.empty()) {
     text += "<title>" + Escaped(title) + "</title>\n";
   }
-  return text + Body(drawing, surface) + "</svg>\n";
+  return text + StyleSheet(drawing) + Body(drawing, surface) + "</svg>\n";
 }
 
 }  // namespace veln

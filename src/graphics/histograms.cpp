@@ -49,7 +49,8 @@ Limits RangeOf(const HistogramSource& source)
   return range;
 }
 
-/// The bin of a value, from 0. A value on the edge between two bins goes to the upper one.
+/// The bin of a value, from 0. A value on the edge between two bins goes to the upper one, also when the
+/// division leaves it a rounding short of the edge.
 std::size_t BinOf(double value, const Limits& range)
 {
   constexpr auto Bins = static_cast<double>(HistogramBins);
@@ -57,7 +58,8 @@ std::size_t BinOf(double value, const Limits& range)
   if (width == 0) {
     return HistogramBins - 1;
   }
-  const double bin = std::floor(Bins * (1 - (range.Maximum - value) / width)) + 1;
+  constexpr double Rounding = 1E-9;
+  const double bin = std::floor(Bins * (1 - (range.Maximum - value) / width) + Rounding) + 1;
   return static_cast<std::size_t>(std::clamp(bin, 1.0, Bins)) - 1;
 }
 

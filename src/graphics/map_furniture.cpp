@@ -27,8 +27,10 @@ struct Block {
   double Width, Height;
 };
 
-constexpr Block BarBlock{0.56, 0.16};
 constexpr Block ArrowBlock{0.14, 0.27};
+constexpr double BarHeight = 0.16;
+constexpr double BarMargin = 0.04;  // beside the bar
+constexpr double LongestBar = 0.48;
 
 DrawPoint TopLeftOf(Corner corner, const Block& block)
 {
@@ -59,30 +61,40 @@ Corner EmptiestCorner(const Plot& plot, const PlotView& view, const Block& block
   return liking.at(best.value_or(0));
 }
 
-void AddBar(std::vector<DrawMark>& marks, DrawPoint topLeft, const PlotAxis& axis, double zoom)
+/// A scale bar: its text, its length on the surface and the room that both need.
+struct ScaleBar {
+  std::string Text;
+  double Length;
+  Block Room;
+};
+
+ScaleBar MakeScaleBar(const PlotAxis& axis, double zoom)
 {
-  constexpr double Margin = 0.04;
-  constexpr double Longest = BarBlock.Width - 2 * Margin;
+  constexpr double CharacterWidth = 0.037;
+  const double perUnit = AxisScale({axis.Low, axis.High}).Half() / zoom;
+  const double length = RoundLength(LongestBar * perUnit);
+  const std::string text = FormatNumber(length, "0.############");
+  const double widest = std::max(length / perUnit, CharacterWidth * static_cast<double>(text.size()));
+  return {text, length / perUnit, {widest + 2 * BarMargin, BarHeight}};
+}
+
+void AddBar(std::vector<DrawMark>& marks, DrawPoint topLeft, const ScaleBar& bar)
+{
   constexpr double TextTop = 0.02;
   constexpr double BarDown = 0.12;
   constexpr double TickUp = 0.025;
-  const double perUnit = AxisScale({axis.Low, axis.High}).Half() / zoom;
-  const double length = RoundLength(Longest * perUnit);
-  const double left = topLeft.X + BarBlock.Width / 2 - length / perUnit / 2;
-  const double right = left + length / perUnit;
+  const double middle = topLeft.X + bar.Room.Width / 2;
+  const double left = middle - bar.Length / 2;
+  const double right = middle + bar.Length / 2;
   const double y = topLeft.Y + BarDown;
   const Pen pen{QBColor(0), 2};
   marks.emplace_back(
-      BoxMark{topLeft, {topLeft.X + BarBlock.Width, topLeft.Y + BarBlock.Height}, {QBColor(15), 1}, true});
+      BoxMark{topLeft, {topLeft.X + bar.Room.Width, topLeft.Y + bar.Room.Height}, {QBColor(15), 1}, true});
   marks.emplace_back(LineMark{{left, y}, {right, y}, pen});
   marks.emplace_back(LineMark{{left, y}, {left, y - TickUp}, pen});
   marks.emplace_back(LineMark{{right, y}, {right, y - TickUp}, pen});
-  marks.emplace_back(TextMark{{topLeft.X + BarBlock.Width / 2, topLeft.Y + TextTop},
-                              FormatNumber(length, "0.############"),
-                              QBColor(0),
-                              FontSize,
-                              false,
-                              TextAnchor::Middle});
+  marks.emplace_back(
+      TextMark{{middle, topLeft.Y + TextTop}, bar.Text, QBColor(0), FontSize, false, TextAnchor::Middle});
 }
 
 void AddArrow(std::vector<DrawMark>& marks, DrawPoint topLeft)
@@ -128,8 +140,9 @@ std::vector<DrawMark> FurnitureMarks(const Plot& plot, const PlotView& view, con
   }
   std::optional<Corner> taken;
   if (furniture.ScaleBar) {
-    taken = EmptiestCorner(plot, view, BarBlock, {BottomLeft, BottomRight, TopLeft, TopRight}, taken);
-    AddBar(marks, TopLeftOf(*taken, BarBlock), plot.AxisX, view.Zoom());
+    const ScaleBar bar = MakeScaleBar(plot.AxisX, view.Zoom());
+    taken = EmptiestCorner(plot, view, bar.Room, {BottomLeft, BottomRight, TopLeft, TopRight}, taken);
+    AddBar(marks, TopLeftOf(*taken, bar.Room), bar);
   }
   if (furniture.NorthArrow) {
     const Corner corner =

@@ -2,7 +2,6 @@
 
 #include <algorithm>
 #include <cmath>
-#include <tuple>
 #include <utility>
 
 namespace veln {
@@ -24,11 +23,11 @@ bool MarkLayers::Touches(UnitPoint from, UnitPoint to, double penWidth) const
          std::min(from.X, to.X) - reach <= width_ && std::min(from.Y, to.Y) - reach <= height_;
 }
 
-std::size_t MarkLayers::Place(UnitPoint from, UnitPoint to, const Pen& pen, double penWidth)
+std::size_t MarkLayers::Place(UnitPoint from, UnitPoint to, Colour ink, double penWidth)
 {
   CoverCells(from, to, penWidth / 2);
-  const std::size_t layer = LayerAbove(std::max(HighestUnder(pen.Ink), floor_), pen);
-  Cover(static_cast<std::int32_t>(layer), pen.Ink);
+  const std::size_t layer = LayerAbove(std::max(HighestUnder(ink), floor_), ink);
+  Cover(static_cast<std::int32_t>(layer), ink);
   return layer;
 }
 
@@ -95,21 +94,16 @@ void MarkLayers::Cover(std::int32_t layer, Colour ink)
   }
 }
 
-std::size_t MarkLayers::LayerAbove(std::int32_t under, const Pen& pen)
+std::size_t MarkLayers::LayerAbove(std::int32_t under, Colour ink)
 {
-  std::vector<std::int32_t>& layers = layersOf_[pen];
+  std::vector<std::int32_t>& layers =
+      layersOf_[ink.Red | unsigned{ink.Green} << 8U | unsigned{ink.Blue} << 16U];
   const auto found = std::ranges::upper_bound(layers, under);
   if (found != layers.end()) {
     return static_cast<std::size_t>(*found);
   }
   layers.push_back(count_++);
   return static_cast<std::size_t>(layers.back());
-}
-
-bool MarkLayers::PenOrder::operator()(const Pen& a, const Pen& b) const
-{
-  return std::tie(a.Width, a.Ink.Red, a.Ink.Green, a.Ink.Blue) <
-         std::tie(b.Width, b.Ink.Red, b.Ink.Green, b.Ink.Blue);
 }
 
 }  // namespace veln

@@ -16,10 +16,10 @@ struct UnitPoint {
   bool operator==(const UnitPoint&) const = default;
 };
 
-/// Sorts dots and lines into layers of one pen that, drawn one after the other, give the picture of the order
-/// in which the marks came: a mark goes to the first layer of its pen above everything of another colour that
-/// lies under it. What lies under it is kept on a grid of cells, so that the work for a mark does not depend
-/// on how many lie there; two marks that share a cell count as overlapping.
+/// Sorts dots and lines into layers of one colour that, drawn one after the other, give the picture of the
+/// order in which the marks came: a mark goes to the first layer of its colour above everything of another
+/// colour that lies under it. What lies under it is kept on a grid of cells, so that the work for a mark does
+/// not depend on how many lie there; two marks that share a cell count as overlapping.
 class MarkLayers {
  public:
   /// A surface of `width` by `height` units; a cell is `cell` units wide. What lies outside is not seen.
@@ -27,7 +27,7 @@ class MarkLayers {
 
   /// The layer for a mark from `from` to `to` (a dot: both the same), `penWidth` units wide. Layers count
   /// from 0; a new one comes last. Whether the mark touches the surface at all is told by `Touches`.
-  std::size_t Place(UnitPoint from, UnitPoint to, const Pen& pen, double penWidth);
+  std::size_t Place(UnitPoint from, UnitPoint to, Colour ink, double penWidth);
 
   [[nodiscard]] bool Touches(UnitPoint from, UnitPoint to, double penWidth) const;
 
@@ -51,17 +51,13 @@ class MarkLayers {
   void AddRun(std::int32_t row, double left, double right);
   [[nodiscard]] std::int32_t HighestUnder(Colour ink) const;
   void Cover(std::int32_t layer, Colour ink);
-  std::size_t LayerAbove(std::int32_t under, const Pen& pen);
-
-  struct PenOrder {
-    bool operator()(const Pen& a, const Pen& b) const;
-  };
+  std::size_t LayerAbove(std::int32_t under, Colour ink);
 
   std::int32_t width_, height_, cell_;
   std::int32_t columns_, rows_;
   std::vector<Cell> cells_;
-  std::vector<CellRun> runs_;  // of the mark at hand
-  std::map<Pen, std::vector<std::int32_t>, PenOrder> layersOf_;
+  std::vector<CellRun> runs_;                                    // of the mark at hand
+  std::map<std::uint32_t, std::vector<std::int32_t>> layersOf_;  // by colour
   std::int32_t count_ = 0;
   std::int32_t floor_ = -1;  // the last layer of `PlaceAlone`
 };

@@ -20,10 +20,13 @@ constexpr double UnitsPerPixel = 15;  // twips of the drawing's own size
 constexpr double Far = 1E+6;          // units, out of sight on every surface
 
 /// Shapes of one pen.
-struct Layer {
+struct PenPath {
   Pen Stroke;
   QPainterPath Path;
 };
+
+/// Shapes of one colour, by the widths of their pens.
+using Layer = std::vector<PenPath>;
 
 /// What is painted one after the other: a layer, or a mark of another kind as it stands.
 using Element = std::variant<Layer, const DrawMark*>;
@@ -76,11 +79,16 @@ class LayerSorter {
     if (!layers_.Touches(first, last, width)) {
       return nullptr;
     }
-    const std::size_t layer = layers_.Place(first, last, pen, width);
+    const std::size_t layer = layers_.Place(first, last, pen.Ink, width);
     if (layer == elements_.size()) {
-      elements_.emplace_back(Layer{pen, {}});
+      elements_.emplace_back(Layer());
     }
-    return &std::get<Layer>(elements_.at(layer)).Path;
+    auto& paths = std::get<Layer>(elements_.at(layer));
+    auto found = std::ranges::find(paths, pen, &PenPath::Stroke);
+    if (found == paths.end()) {
+      found = paths.insert(found, {pen, {}});
+    }
+    return &found->Path;
   }
 
   static std::int32_t Whole(double value)
@@ -114,7 +122,9 @@ void PaintLayered(QPainter& painter, const Drawing& drawing, std::span<const Dra
   }
   for (const Element& element : sorter.Elements()) {
     if (const auto* layer = std::get_if<Layer>(&element)) {
-      painter.strokePath(layer->Path, paint.StrokeOf(layer->Stroke));
+      for (const PenPath& shapes : *layer) {
+        painter.strokePath(shapes.Path, paint.StrokeOf(shapes.Stroke));
+      }
     } else {
       std::visit(paint, *std::get<const DrawMark*>(element));
     }

@@ -59,6 +59,16 @@ TEST_F(FrmSigVal, OutliersSelectDeletion)
   EXPECT_FALSE(Shown("frmSigVal", "Label1"));
 }
 
+TEST_F(FrmSigVal, ArrowKeysChooseBetweenOptions)
+{
+  Open(WithOutliers(TransectSurvey(5, 20)));
+  QApplication::setActiveWindow(Window("frmSigVal"));
+  Button("Option1").setFocus();
+  QTest::keyClick(&Button("Option1"), Qt::Key_Down);
+  EXPECT_TRUE(Chosen("Option2") && !Chosen("Option1"));
+  EXPECT_TRUE(Enabled("Check2")) << "the form follows the keys";
+}
+
 TEST_F(FrmSigVal, GridWithoutOutliersCanOnlyBeAccepted)
 {
   Open(GridSurvey(10, 10));

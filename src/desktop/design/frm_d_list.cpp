@@ -9,23 +9,32 @@
 #include <QFontDatabase>
 #include <QMenuBar>
 #include <QPlainTextEdit>
+#include <QScreen>
 #include <QVBoxLayout>
+
+#include <array>
 
 namespace veln {
 
 namespace {
 
-QStringList ListLevels(const Program& program)
+QStringList ListLevels(const SrsForm& form, const SurveyState& state)
 {
   QStringList lines;
-  if (const auto* design = program.Find<frmSRS>()) {
-    const LevelListing listing = design->Form().Listing(program.State);
-    for (const std::string& line :
-         ListDLevels(listing, InitDLevels(listing.Size, design->Form().Settings().DFactor))) {
-      lines << ToQt(line);
-    }
+  const LevelListing listing = form.Listing(state);
+  for (const std::string& line : ListDLevels(listing, InitDLevels(listing.Size, form.Settings().DFactor))) {
+    lines << ToQt(line);
   }
   return lines;
+}
+
+/// The listing's height by size: the longest listing fits the full one.
+int HeightOf(DesignSize size, const QFontMetrics& metrics)
+{
+  constexpr int Lines = 37;
+  constexpr std::array<int, 3> Percent = {65, 80, 100};
+  constexpr int Whole = 100;
+  return metrics.lineSpacing() * Lines * Percent.at(static_cast<std::size_t>(size)) / Whole;
 }
 
 /// White paper with black text on any desktop.
@@ -46,7 +55,9 @@ frmDList::frmDList(Program& program, QWidget* parent)
 {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
-  const QStringList lines = ListLevels(program);
+  const auto* design = program.Find<frmSRS>();
+  const SrsForm form = design != nullptr ? design->Form() : SrsForm();
+  const QStringList lines = ListLevels(form, program.State);
   auto* listing = new QPlainTextEdit(lines.join('\n'), this);
   listing->setObjectName("listing");
   listing->setAccessibleName("Design levels");
@@ -57,8 +68,9 @@ frmDList::frmDList(Program& program, QWidget* parent)
   constexpr int WidestLine = 48;  // characters
   const QFontMetrics metrics(listing->font());
   listing->setMinimumSize(metrics.averageCharWidth() * WidestLine,
-                          metrics.lineSpacing() * (static_cast<int>(lines.size()) + 2));
+                          qMin(HeightOf(form.Size, metrics), screen()->availableSize().height() * 3 / 4));
   layout->addWidget(listing);
+  layout->setSizeConstraint(QLayout::SetFixedSize);  // also where the window kept its place
 
   auto* bar = new QMenuBar(this);
   QMenu* print = bar->addMenu("&Print");

@@ -22,13 +22,16 @@ frmParse::frmParse(Program& program, QWidget* parent)
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
   layout->setSpacing(LargeGap);
-  layout->addWidget(
+  auto* told = new QVBoxLayout;
+  told->setSpacing(SmallGap / 2);
+  told->addWidget(
       MakeText(this, "Label1",
                "Based on your EM survey data file sample size, VELN has determined that your survey can "
                "be parsed into "));
   QLabel* count = MakeValueLabel(this, "Label2", "");
   ShowValue(*count, ToQt(form_.Label2()));
-  layout->addWidget(count);
+  told->addWidget(count);
+  layout->addLayout(told);
 
   auto* frame = new QGroupBox("Please Select the Strata that you want VELN to use: ", this);
   frame->setObjectName("Frame1");

@@ -16,6 +16,7 @@
 #include <QGroupBox>
 #include <QKeyEvent>
 #include <QLabel>
+#include <QLayout>
 #include <QLineEdit>
 #include <QProgressBar>
 #include <QPushButton>
@@ -51,11 +52,22 @@ void frmSRS::UseSettings(const Combination& combination, int strata)
     MoveDFactor(form, DFactorOf(combination.FactorIndex));
     if (strata > 1) {
       SwitchParsing(form, true);
+    }
+  });
+  if (form_.Check3) {
+    CloseParsing();  // its choice would take this one's place
+    Act([&](SrsForm& form) {
       ParseForm parse = LoadParseForm(State());
       ChooseStratum(parse, combination.Stratum);
       InvokeParsing(parse, form, Shared().Ask());
-    }
-  });
+    });
+  }
+}
+
+QSize frmSRS::sizeHint() const
+{
+  const int taller = settings_->sizeHint().height() - view_->sizeHint().height();
+  return ChildWindow::sizeHint() + QSize(qMax(0, taller), 0);  // the square view fills its room
 }
 
 void frmSRS::WayOut()
@@ -75,12 +87,31 @@ void frmSRS::keyPressEvent(QKeyEvent* event)
   ChildWindow::keyPressEvent(event);
 }
 
+/// Two buttons take turns in one place: the second click of a double click is not meant for the other one.
+bool frmSRS::eventFilter(QObject* object, QEvent* event)
+{
+  if (event->type() == QEvent::MouseButtonDblClick) {
+    return true;
+  }
+  if (event->type() == QEvent::Leave && object == sites_->viewport()) {
+    RingSite(sites_->currentRow());
+  }
+  return ChildWindow::eventFilter(object, event);
+}
+
 void frmSRS::Run()
 {
   progress_.Clear();
-  frmSRSObserver observer(*this, progress_);
-  Act([&](SrsForm& form) { RunDesign(form, State(), Shared().Ask(), observer); });
+  {
+    frmSRSObserver observer(*this, progress_);
+    Shared().Try([&] { RunDesign(form_, State(), Shared().Ask(), observer); });
+  }
+  Mirror();
   ShowSites();
+  if (form_.Finished) {
+    sites_->setFocus();
+    sites_->selectRow(0);
+  }
   Shared().Changed();
 }
 
@@ -94,6 +125,9 @@ void frmSRS::Save()
     }
     Mirror();
     ShowSites();
+    if (saved) {
+      run_->setFocus();
+    }
   }
   program.Changed();
 }
@@ -105,6 +139,7 @@ void frmSRS::Discard()
     progress_.Clear();
     Mirror();
     ShowSites();
+    run_->setFocus();
   }
   Shared().Changed();
 }
@@ -117,13 +152,23 @@ void frmSRS::Select(bool limited)
   const bool ended =
       program.Try([&] { scores = SelectDesigns(form_, State(), limited, program.Ask(), observer); });
   observer.End();
-  if (!CloseIfAsked()) {
-    progress_.Clear();
-    Mirror();
+  if (CloseIfAsked()) {
+    return;
   }
+  if (observer.Began()) {
+    progress_.Clear();
+  }
+  Mirror();
   program.Changed();
   if (ended && scores) {
     program.ShowWith<frmSRSOpt>([&](QWidget* main) { return new frmSRSOpt(program, main, *scores); });
+  }
+}
+
+void frmSRS::CloseParsing()
+{
+  if (auto* parse = Shared().Find<frmParse>(); parse != nullptr) {
+    parse->Unload();
   }
 }
 
@@ -134,7 +179,7 @@ void frmSRS::CloseCompanions()
       window->Unload();
     }
   };
-  close(Shared().Find<frmParse>());
+  CloseParsing();
   close(Shared().Find<frmDList>());
   close(Shared().Find<frmSRSOpt>());
 }
@@ -156,27 +201,28 @@ void frmSRS::ShowGrowth()
   }
 }
 
-void frmSRS::ShowStatus(const QString& text)
+void frmSRS::KeepStatus(const QString& text)
 {
   constexpr qsizetype Kept = 20;
-  if (text == status_->text()) {
-    return;
+  if (lastStatus_.isEmpty() || lastStatus_.constLast() != text) {
+    lastStatus_.append(text);
+    lastStatus_.remove(0, qMax(qsizetype{0}, lastStatus_.size() - Kept));
   }
-  lastStatus_.append(text);
-  while (lastStatus_.size() > Kept) {
-    lastStatus_.removeFirst();
-  }
-  ShowValue(*status_, text);
+}
+
+void frmSRS::ShowStatus()
+{
+  ShowValue(*status_, lastStatus_.constLast());
   status_->setToolTip(lastStatus_.join('\n'));
 }
 
 void frmSRS::ShowSites()
 {
-  TextTable table;
   if (form_.Finished) {
-    table = ListDesignSites(State(), *form_.Finished);
+    FillTextTable(*sites_, ListDesignSites(State(), form_.Finished));
+  } else {
+    sites_->setRowCount(0);  // the columns keep their width
   }
-  FillTextTable(*sites_, table);
   view_->Ring(std::nullopt);
 }
 
@@ -213,17 +259,25 @@ void frmSRS::Mirror()
 {
   MirrorSettings();
   MirrorState();
+  if (!form_.Check3) {
+    CloseParsing();
+  }
   ShowValue(*designNumber_, ToQt(form_.LblDN));
   ShowValue(*sampleSize_, ToQt(form_.LblSS));
   ShowValue(*signalColumns_, ToQt(form_.LblSC));
-  ShowStatus(ToQt(form_.LblMS));
+  KeepStatus(ToQt(form_.LblMS));
+  ShowStatus();
 }
 
 void frmSRS::MirrorSettings()
 {
   for (const DesignSize size : {DesignSize::Limited, DesignSize::Standard, DesignSize::Full}) {
     const auto index = static_cast<std::size_t>(size);
-    sizes_.at(index)->setText(ToQt(form_.OptionCaption(size)).replace("n=", "&n="));
+    QString caption = ToQt(form_.OptionCaption(size));
+    for (const char* key : {"limited", "ndard", "ull"}) {
+      caption.replace(key, QString("&") + key);
+    }
+    sizes_.at(index)->setText(caption);
     sizes_.at(index)->setAccessibleName(ToQt(form_.OptionCaption(size)));
     ShowChoice(*sizes_.at(index), form_.Size == size, form_.OptionEnabled.at(index));
   }

@@ -41,10 +41,12 @@ class frmSRS : public ChildWindow {
   void Act(const std::function<void(SrsForm&)>& action);
   /// Sets D-factor and stratum to a combination of the automatic selection, as a person's clicks would.
   void UseSettings(const Combination& combination, int strata);
+  [[nodiscard]] QSize sizeHint() const override;
 
  protected:
   void WayOut() override;
   void keyPressEvent(QKeyEvent* event) override;
+  bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
   friend class frmSRSObserver;
@@ -57,15 +59,18 @@ class frmSRS : public ChildWindow {
   QLayout* MakeButtons();
   QLayout* MakeStatus();
   QWidget* MakeView();
+  QWidget* MakeSiteTable();
   void Run();
   void Save();
   void Discard();
   void Select(bool limited);
+  void CloseParsing();
   void CloseCompanions();
   /// Closes the window when the rules on available sites have closed its state.
   bool CloseIfAsked();
   void ShowGrowth();
-  void ShowStatus(const QString& text);
+  void KeepStatus(const QString& text);
+  void ShowStatus();
   void ShowSites();
   void RingSite(int row);
   void PointAt(const std::optional<DrawPoint>& place, double pixel);
@@ -74,8 +79,9 @@ class frmSRS : public ChildWindow {
   void MirrorState();
 
   SrsForm form_;
+  DrawingView* view_ = nullptr;  // before the picture, which asks for it
   ProgressView progress_;
-  DrawingView* view_ = nullptr;
+  QLayout* settings_ = nullptr;
   std::array<QRadioButton*, 3> sizes_{};
   QGroupBox* sizeFrame_;
   QGroupBox* controlFrame_;

@@ -1,4 +1,5 @@
 // What frmSRS is made of: its controls and menus, without their rules.
+#include "design/design_table.h"
 #include "design/survey_reduction.h"
 #include "desktop/controls.h"
 #include "desktop/design/frm_d_list.h"
@@ -7,12 +8,14 @@
 #include "desktop/drawing_view.h"
 #include "desktop/help_request.h"
 #include "desktop/text_table.h"
+#include "toolkit/number_text.h"
 
 #include <QAction>
 #include <QCheckBox>
 #include <QGridLayout>
 #include <QGroupBox>
 #include <QHBoxLayout>
+#include <QHeaderView>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMenuBar>
@@ -22,6 +25,9 @@
 #include <QScrollBar>
 #include <QTableWidget>
 #include <QVBoxLayout>
+
+#include <algorithm>
+#include <utility>
 
 namespace veln {
 
@@ -57,6 +63,7 @@ QLabel* AddFact(QGridLayout& grid, QWidget* parent, const char* name, const QStr
   auto* text = new QLabel(caption, parent);
   grid.addWidget(text, row, 0);
   QLabel* value = MakeValueLabel(parent, name, caption);
+  value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
   grid.addWidget(value, row, 1);
   return value;
 }
@@ -73,6 +80,7 @@ frmSRS::frmSRS(Program& program, QWidget* parent)
   layout->setSpacing(SmallGap);
   auto* left = new QVBoxLayout;
   left->setSpacing(LargeGap);
+  settings_ = left;
   left->addLayout(MakeFacts());
   left->addWidget(MakeSizes());
   left->addWidget(MakeControls());
@@ -82,6 +90,7 @@ frmSRS::frmSRS(Program& program, QWidget* parent)
   top->setSpacing(LargeGap);
   top->addLayout(left);
   top->addWidget(MakeView(), 1);
+  top->addWidget(MakeSiteTable());
   layout->addLayout(top, 1);
   layout->addLayout(MakeStatus());
   MakeMenus();
@@ -116,7 +125,6 @@ QGroupBox* frmSRS::MakeSizes()
     auto* option = new QRadioButton(sizeFrame_);
     option->setObjectName(Names.at(index));
     option->setToolTip(ToolTips.at(index));
-    option->setAutoExclusive(false);
     column->addWidget(option);
     sizes_.at(index) = option;
     connect(option, &QRadioButton::clicked, this,
@@ -142,6 +150,7 @@ QGroupBox* frmSRS::MakeControls()
   factorBar_->setFocusPolicy(Qt::StrongFocus);
   factorBar_->setRange(LowestDFactor, HighestDFactor);
   factorBar_->setPageStep(LargeChange);
+  factorBar_->setInvertedControls(false);  // to the right is more
   factorBar_->setAccessibleName("Design factor");
   factorCaption_ = MakeFieldLabel(controlFrame_, "Label1", "&Value:", factorText_);
   ignoreTA_ = MakeCheck(controlFrame_, "Check2", "I&gnore TA Information",
@@ -167,8 +176,6 @@ QGroupBox* frmSRS::MakeControls()
     Act([on](SrsForm& f) { SwitchParsing(f, on); });
     if (form_.Check3) {
       Shared().Show<frmParse>();
-    } else if (auto* parse = Shared().Find<frmParse>(); parse != nullptr) {
-      parse->Unload();
     }
   });
   return controlFrame_;
@@ -189,6 +196,7 @@ QLayout* frmSRS::MakeButtons()
   auto* places = new QGridLayout;  // the two decisions stand where the run was started
   for (QPushButton* button : {levels_, run_, save_, discard_}) {
     button->setMinimumHeight(large);
+    button->installEventFilter(this);
     KeepRoom(*button);
   }
   places->addWidget(levels_, 0, 0);
@@ -207,39 +215,49 @@ QLayout* frmSRS::MakeButtons()
 
 QWidget* frmSRS::MakeView()
 {
-  auto* part = new QWidget(this);
-  auto* column = new QVBoxLayout(part);
-  column->setContentsMargins(0, 0, 0, 0);
-  view_ = new DrawingView(part);
+  view_ = new DrawingView(this);
   view_->setObjectName("PictGW");
-  view_->setAccessibleName("Map of the field; the chosen sites stand in the table below");
+  view_->setAccessibleName("Map of the field; the chosen sites stand in the table beside it");
   view_->Show(progress_.Picture());
   view_->Pointed = [this](const std::optional<DrawPoint>& place, double pixel) { PointAt(place, pixel); };
-  sites_ = MakeTextTable(part, "sites", {});
-  sites_->setAccessibleName("Chosen sites");
-  sites_->setMouseTracking(true);
-  connect(sites_, &QTableWidget::cellEntered, this, [this](int row, int) { RingSite(row); });
-  connect(sites_, &QTableWidget::currentCellChanged, this, [this](int row, int, int, int) { RingSite(row); });
-  column->addWidget(view_, 3);
-  column->addWidget(sites_, 1);
-  return part;
+  return view_;
 }
 
+QWidget* frmSRS::MakeSiteTable()
+{
+  const SurveyState& state = State();
+  TextTable widest = ListDesignSites(state, std::nullopt);
+  std::vector<std::string> cells(widest.Headings.size(), "-0.00");
+  cells[1] = GeneralForm(state.SurveySize);
+  cells[2] = FormatNumber(*std::ranges::max_element(state.CoordX), "########0.00");
+  cells[3] = FormatNumber(*std::ranges::max_element(state.CoordY), "########0.00");
+  widest.Rows.push_back(std::move(cells));
+  sites_ = MakeTextTable(this, "sites", widest);
+  sites_->setRowCount(0);  // the columns are as wide as a design will need them
+  sites_->setAccessibleName("Chosen sites");
+  sites_->setMouseTracking(true);
+  sites_->viewport()->installEventFilter(this);
+  sites_->horizontalHeader()->setHighlightSections(false);
+  connect(sites_, &QTableWidget::cellEntered, this, [this](int row, int) { RingSite(row); });
+  connect(sites_, &QTableWidget::currentCellChanged, this, [this](int row, int, int, int) { RingSite(row); });
+  return sites_;
+}
+
+/// The status line, and at its end the progress of an automatic selection.
 QLayout* frmSRS::MakeStatus()
 {
-  auto* column = new QVBoxLayout;
   auto* line = new QHBoxLayout;
+  line->setSpacing(SmallGap);
   auto* caption = new QLabel("Algorithm Status:", this);
   status_ = MakeValueLabel(this, "LblMS", "Algorithm Status:");
   status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
   line->addWidget(caption);
   line->addWidget(status_, 1);
-  column->addLayout(line);
 
   selectionBar_ = new QWidget(this);
-  selectionBar_->hide();
   auto* bar = new QHBoxLayout(selectionBar_);
   bar->setContentsMargins(0, 0, 0, 0);
+  bar->setSpacing(SmallGap);
   selectionProgress_ = new QProgressBar(selectionBar_);
   selectionProgress_->setObjectName("selectionProgress");
   selectionProgress_->setAccessibleName("Designs made");
@@ -249,8 +267,10 @@ QLayout* frmSRS::MakeStatus()
   bar->addWidget(selectionProgress_, 1);
   bar->addWidget(selectionText_, 1);
   bar->addWidget(stop_);
-  column->addWidget(selectionBar_);
-  return column;
+  selectionBar_->hide();
+  KeepRoom(*selectionBar_);
+  line->addWidget(selectionBar_, 1);
+  return line;
 }
 
 void frmSRS::MakeMenus()
@@ -277,6 +297,7 @@ void frmSRS::MakeMenus()
     connect(reductions_.at(i), &QAction::triggered, this, [this, i] {
       Act([&](SrsForm& f) { ReduceGridSize(f, State(), static_cast<int>(i) + 2, Shared().Ask()); });
       CloseIfAsked();
+      Shared().Changed();
     });
   }
   recover_ =
@@ -284,6 +305,7 @@ void frmSRS::MakeMenus()
   connect(recover_, &QAction::triggered, this, [this] {
     Act([&](SrsForm& f) { RecoverGridSites(f, State(), Shared().Ask()); });
     CloseIfAsked();
+    Shared().Changed();
   });
   options->addSeparator();
   QMenu* support = AddSubmenu(*options, "mnuSSopt", "&Support sites");

@@ -12,9 +12,15 @@
 
 namespace veln {
 
+namespace {
+
+constexpr int RepaintMilliseconds = 17;  // 60 paints a second
+
+}  // namespace
+
 frmSRSObserver::frmSRSObserver(frmSRS& window, ProgressView& picture) : window_(window), picture_(picture)
 {
-  sinceStatus_.start();
+  sincePaint_.start();
 }
 
 frmSRSObserver::~frmSRSObserver()
@@ -22,27 +28,41 @@ frmSRSObserver::~frmSRSObserver()
   End();
 }
 
+void frmSRSObserver::Begin()
+{
+  began_ = true;
+  if (!busy_) {
+    busy_ = true;
+    QGuiApplication::setOverrideCursor(Qt::BusyCursor);
+  }
+}
+
 void frmSRSObserver::End()
 {
-  if (guard_) {
-    guard_.reset();
-    window_.selectionBar_->hide();
-    QGuiApplication::restoreOverrideCursor();
+  if (!busy_) {
+    return;
   }
+  busy_ = false;
+  guard_ = std::make_unique<InputGuard>(nullptr);
+  QApplication::processEvents();
+  guard_.reset();
+  window_.selectionBar_->hide();
+  QGuiApplication::restoreOverrideCursor();
 }
 
 void frmSRSObserver::Status(const std::string& text)
 {
-  constexpr int RepaintMilliseconds = 17;  // 60 paints a second
-  window_.ShowStatus(ToQt(text));
-  if (sinceStatus_.elapsed() >= RepaintMilliseconds) {
+  window_.KeepStatus(ToQt(text));
+  if (sincePaint_.elapsed() >= RepaintMilliseconds) {
+    window_.ShowStatus();
     window_.status_->repaint();
-    sinceStatus_.restart();
+    sincePaint_.restart();
   }
 }
 
 void frmSRSObserver::MapReady()
 {
+  Begin();
   picture_.MapReady();
 }
 
@@ -69,17 +89,22 @@ void frmSRSObserver::SupportFound(const CandidateSite& site)
 bool frmSRSObserver::NextDesign(int k, int n)
 {
   if (!guard_) {
+    Begin();
     guard_ = std::make_unique<InputGuard>(window_.stop_);
     QObject::connect(window_.stop_, &QPushButton::clicked, guard_.get(), [this] { stopped_ = true; });
-    QGuiApplication::setOverrideCursor(Qt::BusyCursor);
     window_.selectionProgress_->setRange(0, n);
     window_.selectionBar_->show();
     window_.stop_->setFocus();
     sinceStart_.start();
   }
-  ShowSelection(k, n);
+  last_ = k == n;
   picture_.Clear();
-  QApplication::processEvents();
+  if (k == 1 || sincePaint_.elapsed() >= RepaintMilliseconds) {
+    ShowSelection(k, n);
+    window_.ShowStatus();
+    QApplication::processEvents();
+    sincePaint_.restart();
+  }
   return !stopped_;
 }
 
@@ -87,6 +112,9 @@ void frmSRSObserver::DesignScored(std::optional<double> score)
 {
   if (score && (!best_ || *score < *best_)) {
     best_ = score;
+  }
+  if (last_) {
+    End();  // what is told after the selection can be answered
   }
 }
 

@@ -20,8 +20,10 @@ class frmSRSObserver : public RunObserver {
   frmSRSObserver(frmSRS& window, ProgressView& picture);
   ~frmSRSObserver() override;
 
-  /// Takes the progress of a selection away.
+  /// The run is over: takes its progress away and drops the clicks and keys that came while it went on.
   void End();
+  /// Whether a run has begun.
+  [[nodiscard]] bool Began() const { return began_; }
 
   void Status(const std::string& text) override;
   void MapReady() override;
@@ -33,6 +35,7 @@ class frmSRSObserver : public RunObserver {
   void DesignScored(std::optional<double> score) override;
 
  private:
+  void Begin();
   void ShowSelection(int k, int n);
 
   frmSRS& window_;
@@ -40,7 +43,10 @@ class frmSRSObserver : public RunObserver {
   std::unique_ptr<InputGuard> guard_;
   std::optional<double> best_;
   QElapsedTimer sinceStart_;
-  QElapsedTimer sinceStatus_;
+  QElapsedTimer sincePaint_;
+  bool began_ = false;
+  bool busy_ = false;
+  bool last_ = false;  // the design in work is the last of a selection
   bool stopped_ = false;
 };
 

@@ -14,10 +14,14 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QHeaderView>
+#include <QItemSelectionModel>
 #include <QMenuBar>
 #include <QPushButton>
+#include <QShortcut>
 #include <QTableWidget>
 #include <QVBoxLayout>
+
+#include <utility>
 
 namespace veln {
 
@@ -35,18 +39,32 @@ QGroupBox* MakeResult(QWidget* parent, const char* frameName, const QString& tit
   return frame;
 }
 
-/// A field of a CSV file.
-QString CsvField(const std::string& text)
+/// A line of a CSV file. No heading and no score holds a comma or a quote.
+std::string CsvLine(const std::vector<std::string>& cells)
 {
-  return '"' + ToQt(text).trimmed().replace("\"", "\"\"") + '"';
+  QStringList fields;
+  for (const std::string& cell : cells) {
+    fields << ToQt(cell).trimmed();
+  }
+  return FromQt(fields.join(',')) + "\r\n";
+}
+
+/// A quiet tone of the desktop's own highlight, on which the cell's text stays readable.
+QColor BestTone(const QPalette& palette)
+{
+  constexpr double Share = 0.3;
+  const QColor base = palette.color(QPalette::Base);
+  const QColor mark = palette.color(QPalette::Highlight);
+  const auto mix = [](int from, int to) { return from + qRound((to - from) * Share); };
+  return {mix(base.red(), mark.red()), mix(base.green(), mark.green()), mix(base.blue(), mark.blue())};
 }
 
 }  // namespace
 
-frmSRSOpt::frmSRSOpt(Program& program, QWidget* parent, const SelectionScores& scores)
+frmSRSOpt::frmSRSOpt(Program& program, QWidget* parent, SelectionScores scores)
     : ChildWindow(program, parent, {Name, "Sample Design Optimization Results", {1500, 1000}, "", {}}),
-      scores_(scores),
-      summary_(SummariseScores(scores))
+      scores_(std::move(scores)),
+      summary_(SummariseScores(scores_))
 {
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
@@ -56,20 +74,44 @@ frmSRSOpt::frmSRSOpt(Program& program, QWidget* parent, const SelectionScores& s
   layout->addWidget(MakeResult(this, "Frame2",
                                "Number of Acceptable Designs (i.e., below 1.3 or within 10% of Best Design)",
                                "lblAccpt", summary_.lblAccpt));
-  layout->addWidget(MakeText(
-      this, "Label1", "Optimization Criteria Scores for various Desing Factor / Grid Parsing Combinations"));
+  QLabel* caption = MakeText(
+      this, "Label1", "Optimization Criteria Scores for various Desing Factor / Grid Parsing Combinations");
+  caption->setWordWrap(false);
+  auto* table = new QVBoxLayout;
+  table->setSpacing(SmallGap);
+  table->addWidget(caption);
   grid_ = new QTableWidget(MostStrata, DFactorCount, this);
   grid_->setObjectName("FGopt");
   grid_->setAccessibleName("Scores by strata and D-factor");
-  layout->addWidget(grid_, 1);
+  table->addWidget(grid_, 1);
+  layout->addLayout(table, 1);
   FillGrid();
 
+  layout->addLayout(MakeButtons());
+  program.OnChange(this, [this] { ShowUse(); });
+  MakeMenus();
+  ShowUse();
+}
+
+QLayout* frmSRSOpt::MakeButtons()
+{
   auto* buttons = new QHBoxLayout;
+  QPushButton* copyTable =
+      MakeButton(this, "copyScores", "&Copy", "copy the table as text with tabs (Ctrl+C)");
+  QPushButton* saveTable =
+      MakeButton(this, "saveScores", "&Save as CSV...", "save the table for a spreadsheet (Ctrl+S)");
   use_ = MakeButton(this, "useSettings", "&Use these settings",
                     "set D-factor and stratum of the chosen score in the design window");
+  use_->setDefault(true);
+  buttons->addWidget(copyTable);
+  buttons->addWidget(saveTable);
   buttons->addStretch();
   buttons->addWidget(use_);
-  layout->addLayout(buttons);
+  const auto copyText = [this] { QGuiApplication::clipboard()->setText(TabSeparated(Table())); };
+  connect(copyTable, &QPushButton::clicked, this, copyText);
+  connect(saveTable, &QPushButton::clicked, this, [this] { SaveTable(); });
+  connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this, copyText);
+  connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, [this] { SaveTable(); });
   connect(grid_, &QTableWidget::itemSelectionChanged, this, [this] { ShowUse(); });
   connect(use_, &QPushButton::clicked, this, [this] {
     auto* design = Shared().Find<frmSRS>();
@@ -77,9 +119,7 @@ frmSRSOpt::frmSRSOpt(Program& program, QWidget* parent, const SelectionScores& s
       design->UseSettings(*chosen, scores_.pnum);
     }
   });
-  program.OnChange(this, [this] { ShowUse(); });
-  MakeMenus();
-  ShowUse();
+  return buttons;
 }
 
 void frmSRSOpt::FillGrid()
@@ -92,25 +132,39 @@ void frmSRSOpt::FillGrid()
   for (int stratum = 1; stratum <= MostStrata; ++stratum) {
     grid_->setVerticalHeaderItem(stratum - 1, new QTableWidgetItem(ToQt("Strata" + NumberToString(stratum))));
     for (int f = 1; f <= DFactorCount; ++f) {
-      const auto& score = ScoreOf(scores_, {stratum, f});
-      auto* cell = new QTableWidgetItem(score ? ToQt(FormatNumber(*score, "0.000")) : QString());
-      cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-      cell->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-      QFont font = cell->font();
-      font.setBold(IsAcceptable(summary_, score));
-      cell->setFont(font);
-      if (summary_.Best && summary_.Best->Stratum == stratum && summary_.Best->FactorIndex == f) {
-        cell->setBackground(palette().color(QPalette::Highlight));
-        cell->setForeground(palette().color(QPalette::HighlightedText));
-        cell->setToolTip("best design");
-      }
-      grid_->setItem(stratum - 1, f - 1, cell);
+      grid_->setItem(stratum - 1, f - 1, MakeCell({stratum, f}));
     }
   }
   grid_->setSelectionMode(QAbstractItemView::SingleSelection);
   grid_->setTabKeyNavigation(false);
   grid_->horizontalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  grid_->verticalHeader()->setSectionResizeMode(QHeaderView::Stretch);
+  grid_->verticalHeader()->setMinimumSectionSize(grid_->fontMetrics().lineSpacing() + SmallGap);
+  if (summary_.Best) {
+    grid_->setCurrentCell(summary_.Best->Stratum - 1, summary_.Best->FactorIndex - 1,
+                          QItemSelectionModel::NoUpdate);
+  }
   grid_->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+}
+
+QTableWidgetItem* frmSRSOpt::MakeCell(const Combination& combination) const
+{
+  const auto& score = ScoreOf(scores_, combination);
+  auto* cell = new QTableWidgetItem(score ? ToQt(FormatNumber(*score, "0.000")) : QString());
+  cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  cell->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+  const bool acceptable = IsAcceptable(summary_, score);
+  QFont font = grid_->font();
+  font.setBold(acceptable);
+  cell->setFont(font);
+  QString meaning = acceptable ? "acceptable design" : "";
+  if (summary_.Best == combination) {
+    cell->setBackground(BestTone(palette()));
+    meaning = "best design";
+  }
+  cell->setToolTip(meaning);
+  cell->setData(Qt::AccessibleDescriptionRole, meaning);
+  return cell;
 }
 
 void frmSRSOpt::MakeMenus()
@@ -121,12 +175,6 @@ void frmSRSOpt::MakeMenus()
   QAction* printResults = print->addAction("&Print Design Optimization Info");
   printResults->setObjectName("mnuSRSOpinfo");
   printResults->setShortcut(QKeySequence::Print);
-  QAction* copyTable = print->addAction("&Copy");
-  copyTable->setObjectName("copyScores");
-  copyTable->setShortcut(QKeySequence::Copy);
-  QAction* saveTable = print->addAction("&Save as CSV...");
-  saveTable->setObjectName("saveScores");
-  saveTable->setShortcut(QKeySequence::Save);
   QMenu* back = bar->addMenu("&Return");
   back->menuAction()->setObjectName("mnuSRSOR");
   QAction* done = back->addAction("&Return to SRS Sample Site Selection Window");
@@ -135,9 +183,6 @@ void frmSRSOpt::MakeMenus()
   connect(printResults, &QAction::triggered, this, [this] {
     PrintTable(Shared(), this, windowTitle(), Table(), {ToQt(summary_.lblBest), ToQt(summary_.lblAccpt)});
   });
-  connect(copyTable, &QAction::triggered, this,
-          [this] { QGuiApplication::clipboard()->setText(TabSeparated(Table())); });
-  connect(saveTable, &QAction::triggered, this, [this] { SaveTable(); });
   connect(done, &QAction::triggered, this, [this] { Unload(); });
 }
 
@@ -172,17 +217,10 @@ void frmSRSOpt::SaveTable()
   if (!path) {
     return;
   }
-  const auto line = [](const std::vector<std::string>& cells) {
-    QStringList fields;
-    for (const std::string& cell : cells) {
-      fields << CsvField(cell);
-    }
-    return FromQt(fields.join(',')) + "\r\n";
-  };
   const TextTable table = Table();
-  std::string content = line(table.Headings);
+  std::string content = CsvLine(table.Headings);
   for (const auto& row : table.Rows) {
-    content += line(row);
+    content += CsvLine(row);
   }
   Shared().Try([&] { WriteFiles({{*path, content}}); });
 }

@@ -6,8 +6,10 @@
 
 #include <optional>
 
+class QLayout;
 class QPushButton;
 class QTableWidget;
+class QTableWidgetItem;
 
 namespace veln {
 
@@ -16,10 +18,12 @@ class frmSRSOpt : public ChildWindow {
  public:
   static constexpr const char* Name = "frmSRSOpt";
 
-  frmSRSOpt(Program& program, QWidget* parent, const SelectionScores& scores);
+  frmSRSOpt(Program& program, QWidget* parent, SelectionScores scores);
 
  private:
   void FillGrid();
+  [[nodiscard]] QTableWidgetItem* MakeCell(const Combination& combination) const;
+  QLayout* MakeButtons();
   void MakeMenus();
   [[nodiscard]] TextTable Table() const;
   [[nodiscard]] std::optional<Combination> Chosen() const;

@@ -24,7 +24,6 @@ QRadioButton* MakeOption(QWidget* parent, const char* name, const QString& capti
   option->setObjectName(name);
   option->setToolTip(toolTip);
   option->setAccessibleName(WithoutKey(caption));
-  option->setAutoExclusive(false);  // the form tells which one is selected, none among them
   return option;
 }
 
@@ -37,12 +36,23 @@ QCheckBox* MakeCheck(QWidget* parent, const char* name, const QString& caption, 
   return check;
 }
 
-void ShowChoice(QAbstractButton& button, bool on, bool enabled)
+void ShowEnabled(QAbstractButton& button, bool enabled)
 {
-  const QSignalBlocker quiet(button);
-  button.setChecked(on);
   button.setEnabled(enabled);
-  SetRole(button, on ? TextRole::Chosen : TextRole::Normal);
+  SetRole(button, button.isChecked() ? TextRole::Chosen : TextRole::Normal);
+}
+
+void ShowChoice(QCheckBox& check, bool on, bool enabled)
+{
+  const QSignalBlocker quiet(check);
+  check.setChecked(on);
+  ShowEnabled(check, enabled);
+}
+
+void ShowChoice(QRadioButton& option, bool selected, bool enabled)
+{
+  ShowOption(option, selected);
+  ShowEnabled(option, enabled);
 }
 
 }  // namespace

@@ -182,6 +182,7 @@ QGroupBox* frmStructure::MakeColumnPart()
 {
   auto* frame = new QGroupBox("2. Columns", this);
   auto* grid = new QGridLayout(frame);
+  grid->setHorizontalSpacing(LargeGap);
   grid->addWidget(
       MakeParagraph(
           frame, "Label1",

@@ -227,9 +227,7 @@ void frmFileIO::Mirror()
   drives_->setCurrentIndex(drives_->findText(drive));
   for (std::size_t i = 0; i < Factors.size(); ++i) {
     const bool selected = form_.SelectedFactor == Factors.at(i);
-    printers_.at(i)->setAutoExclusive(false);
-    printers_.at(i)->setChecked(selected);
-    printers_.at(i)->setAutoExclusive(form_.SelectedFactor != 0);
+    ShowOption(*printers_.at(i), selected);
     SetRole(*printers_.at(i), selected ? TextRole::Chosen : TextRole::Normal);
   }
 }

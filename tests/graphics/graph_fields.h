@@ -1,0 +1,98 @@
+#pragma once
+
+#include "graphics/survey_graph.h"
+#include "signal/row_table.h"
+#include "signal/transition_analysis.h"
+#include "support/surveys.h"
+
+#include <cstdint>
+#include <initializer_list>
+#include <string>
+#include <utility>
+#include <vector>
+
+namespace veln {
+
+/// A survey of these sites, numbered from 1, all free; without `s2` it has one signal.
+inline SurveyState SitesAt(std::vector<double> x, std::vector<double> y, std::vector<double> s1,
+                           std::vector<double> s2 = {})
+{
+  RawSurvey survey;
+  for (std::size_t i = 0; i < x.size(); ++i) {
+    survey.SiteId.push_back(static_cast<std::int16_t>(i + 1));
+  }
+  survey.CoordX = std::move(x);
+  survey.CoordY = std::move(y);
+  survey.Signal1 = std::move(s1);
+  survey.Signal2 = std::move(s2);
+  return ImportedSurvey(std::move(survey));
+}
+
+/// Five rows of twelve sites with two signals, transition scores, two designs, a manual one, masked sites and
+/// an outlier.
+inline SurveyState SmallExample()
+{
+  SurveyState state = DecorrelatedSurvey(TransectSurvey(5, 12, 2, 3));
+  state.TransitionScore = TrnsAlys(state, InitRows(state.RowNumber));
+  state.TransitionDone = true;
+  state.DesignCount = 2;
+  state.ManualDesignDone = true;
+  for (const auto& [site, status] : std::initializer_list<std::pair<std::size_t, int>>{
+           {3, 1}, {17, 1}, {29, 1}, {44, 2}, {52, 2}, {8, 6}, {0, 7}, {1, 7}, {2, 7}, {40, 8}}) {
+    state.SiteStatus[site] = static_cast<std::int16_t>(status);
+  }
+  return state;
+}
+
+/// Opens the graphics window, with the line plots of rows from east to west initialised for a transect.
+inline SurveyGraph OpenGraph(SurveyState& state)
+{
+  SurveyGraph graph = LoadSurveyGraph(state);
+  if (IsTransect(state)) {
+    for (const GraphEntry entry : {GraphEntry::mnuLine, GraphEntry::mnuLs2, GraphEntry::mnuLs1s2}) {
+      graph.Enabled.set(static_cast<std::size_t>(entry));
+    }
+    InitRows(graph, state);
+  }
+  return graph;
+}
+
+/// The plot of a menu entry in a window just opened.
+inline Plot PlotOf(SurveyState state, GraphEntry entry)
+{
+  DitherGenerator dither;
+  SurveyGraph graph = OpenGraph(state);
+  SelectGraph(graph, state, entry, dither);
+  return graph.Shown;
+}
+
+/// Where the sites of a plot stand on one axis.
+inline std::vector<double> PlacesX(const Plot& plot)
+{
+  std::vector<double> places;
+  for (const PlotSite& site : plot.Sites) {
+    places.push_back(site.At.X);
+  }
+  return places;
+}
+
+inline std::vector<double> PlacesY(const Plot& plot)
+{
+  std::vector<double> places;
+  for (const PlotSite& site : plot.Sites) {
+    places.push_back(site.At.Y);
+  }
+  return places;
+}
+
+/// The pens of the dots of a plot, in the order drawn.
+inline std::vector<Pen> DotPens(const Plot& plot)
+{
+  std::vector<Pen> pens;
+  for (const DotMark& dot : Only<DotMark>(plot.Picture)) {
+    pens.push_back(dot.Stroke);
+  }
+  return pens;
+}
+
+}  // namespace veln

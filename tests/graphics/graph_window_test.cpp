@@ -1,0 +1,226 @@
+#include "graph_fields.h"
+#include "graphics/igc_form.h"
+#include "graphics/pct_form.h"
+#include "graphics/plot_statistics.h"
+#include "graphics/site_text.h"
+#include "support/refusals.h"
+#include "support/scripted_dialogs.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace veln {
+namespace {
+
+using enum GraphEntry;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// The entries that are enabled, by their place in the menus.
+std::vector<GraphEntry> EnabledEntries(const SurveyGraph& graph)
+{
+  std::vector<GraphEntry> entries;
+  for (int i = 0; i < GraphEntryCount; ++i) {
+    if (graph.IsEnabled(static_cast<GraphEntry>(i))) {
+      entries.push_back(static_cast<GraphEntry>(i));
+    }
+  }
+  return entries;
+}
+
+TEST(GraphMenu, OffersWhatTheSurveyHasAtTheOpening)
+{
+  SurveyState one = ImportedSurvey(GridSurvey(5, 4, 1));
+  EXPECT_THAT(EnabledEntries(LoadSurveyGraph(one)),
+              ElementsAre(mnuGrid, mnuScatter, mnuSs1x, mnuSs1y, mnuLs1, mnuHist, mnuHs1, mnuCSG, mnuVs1));
+  SurveyState all = SmallExample();
+  all.DesignCount = 0;
+  all.ManualDesignDone = false;
+  EXPECT_THAT(EnabledEntries(LoadSurveyGraph(all)),
+              ElementsAre(mnuGrid, mnuScatter, mnuSs1x, mnuSs1y, mnuSs2x, mnuSs2y, mnuSs1s2, mnuSz1z2, mnuLs1,
+                          mnuHist, mnuHs1, mnuHs2, mnuHz1, mnuHz2, mnuHta, mnuCSG, mnuVs1, mnuVs2, mnuVz1,
+                          mnuVz2, mnuVta));
+  EXPECT_FALSE(all.OverlayReady);
+}
+
+TEST(GraphMenu, OffersTheOverlayOnMapsOnceADesignExists)
+{
+  SurveyState state = SmallExample();
+  SurveyGraph graph = OpenGraph(state);
+  DitherGenerator dither;
+  EXPECT_TRUE(state.OverlayReady);
+  EXPECT_FALSE(graph.IsEnabled(mnuOSS));
+  for (const GraphEntry other : {mnuGrid, mnuSs1x, mnuSz1z2, mnuLs1, mnuHs1}) {
+    ShowColourMap(graph, state, mnuVz2);
+    EXPECT_TRUE(graph.IsEnabled(mnuOSS));
+    SelectGraph(graph, state, other, dither);
+    EXPECT_FALSE(graph.IsEnabled(mnuOSS));
+  }
+  EXPECT_EQ(ExistingDesigns(state), (DesignFlags{true, true, false, false, false, true}));
+}
+
+TEST(GraphMenu, RefusesAClosedEntryAndKeepsThePlot)
+{
+  SurveyState state = ImportedSurvey(GridSurvey(5, 4, 1));
+  SurveyGraph graph = LoadSurveyGraph(state);
+  DitherGenerator dither;
+  for (const GraphEntry entry : {mnuSs2x, mnuSz1z2, mnuHz1, mnuVta, mnuLs2}) {
+    EXPECT_EQ(RefusalOf([&] { SelectGraph(graph, state, entry, dither); }),
+              "This graph is not available for the survey as it stands.");
+  }
+  EXPECT_EQ(graph.Shown.Title, "Please use the Menu Bar to Select a Graph");
+}
+
+TEST(GraphWindow, DrawsWhatIsLeftAfterADeletionOnTheOldRanges)
+{
+  SurveyState state = SmallExample();
+  SurveyGraph graph = OpenGraph(state);
+  const Limits before = graph.XRange;
+  state.Decorrelation.Lblostdcnt = "1";
+  state.Menu.Apply(WorkflowEvent::SignalsDecorrelated);
+  for (auto* column :
+       {&state.CoordX, &state.CoordY, &state.Signal1, &state.Signal2, &state.Decorr1, &state.Decorr2}) {
+    column->resize(40);
+  }
+  state.SiteStatus.resize(40);
+  state.SurveySize = 40;  // the transition scores keep their 60
+  DitherGenerator dither;
+  ScriptedDialogs dialogs;
+  for (int i = 0; i < GraphEntryCount; ++i) {
+    const auto entry = static_cast<GraphEntry>(i);
+    if (entry != mnuOSS && graph.IsEnabled(entry)) {
+      SelectGraph(graph, state, entry, dither);
+      EXPECT_LE(graph.Shown.Sites.size(), 40);
+    }
+  }
+  MakeSSMap(graph, state, ExistingDesigns(state));
+  EXPECT_EQ(graph.Shown.Sites.size(), 40);
+  EXPECT_EQ(graph.XRange.Maximum, before.Maximum);
+  EXPECT_EQ(SiteText(state, 40), "");
+}
+
+TEST(StatisticsPanel, FollowsTheKindsOfItsArguments)
+{
+  Plot plot;
+  SetSubStats(plot, {"EMh", "2", "1"}, "s1 s2 Corr", "0");
+  EXPECT_EQ(plot.Statistics.Lblr2, "r= 0.0000");
+  SetStats(plot, {"z1", "0", "1"}, {"none", "", ""}, {"Corr", "-1", "1"});
+  EXPECT_EQ(plot.Statistics,
+            (PlotStatistics{"z1", "u= 0.000", "s= 1.000", "", "", "", "Corr", "r= -1.0000", ""}));
+  SetStats(plot, {"EMv", "1.0005", ""}, {"hist", "12.34", "15"}, {"none", "0", "0"});
+  EXPECT_EQ(plot.Statistics,
+            (PlotStatistics{"EMv", "u= 1.001", "", "min and max", "12.340", "15.000", "", "", ""}));
+}
+
+TEST(GraphicsInitialisation, AppliesAllChoicesAtOnceAndForgetsDirectionAndHighlights)
+{
+  SurveyState state = SmallExample();
+  SurveyGraph graph = LoadSurveyGraph(state);
+  SetHLOps(graph, false, false);
+  ScriptedDialogs dialogs;
+  IgcForm form = LoadIgcForm(graph, state);
+  EXPECT_TRUE(form.DirectionEnabled && form.Check4 && form.Check5);
+  EXPECT_FALSE(form.Check1 || form.Option1 || form.Option2);
+  TickLinePlots(form, true);
+  MoveSymbolSize(form, 11);
+  ChoosePalette(form, 4);
+  ChoosePlaces(form, 5);
+  InitializeGraphics(form, graph, state, dialogs);
+  EXPECT_THAT(dialogs.Said, ElementsAre("inform: Please select the Transect Direction before attempting to "
+                                        "initialize Line Plots!"));
+  EXPECT_FALSE(form.Closed || graph.IsEnabled(mnuLine));
+  EXPECT_EQ(graph.Options.PaletteChoice, 1);
+  ChooseDirection(form, true);
+  InitializeGraphics(form, graph, state, dialogs);
+  EXPECT_TRUE(form.Closed && graph.IsEnabled(mnuLine) && graph.IsEnabled(mnuLs1s2));
+  EXPECT_EQ(graph.TransectAxis, 'y');
+  EXPECT_EQ(graph.RowCount(), 5);
+  PlotOptions expected;
+  expected.SymbolSize = 10;
+  expected.PaletteChoice = 4;
+  expected.MapPalette = 4;
+  expected.DecimalPlaces = 5;
+  EXPECT_EQ(graph.Options, expected);
+  IgcForm again = LoadIgcForm(graph, state);
+  EXPECT_FALSE(again.Check1 || again.Option1);
+  EXPECT_EQ(again.Text1(), "10");
+  InitializeGraphics(again, graph, state, dialogs);
+  EXPECT_EQ(graph.TransectAxis, 'y') << "an unticked box leaves the line plots as they were";
+}
+
+TEST(GraphicsInitialisation, HasNoLinePlotsOnAGrid)
+{
+  SurveyState state = ImportedSurvey(GridSurvey(5, 4));
+  SurveyGraph graph = LoadSurveyGraph(state);
+  ScriptedDialogs dialogs;
+  IgcForm form = LoadIgcForm(graph, state);
+  TickLinePlots(form, true);
+  ChooseDirection(form, false);
+  InitializeGraphics(form, graph, state, dialogs);
+  EXPECT_FALSE(form.Option2 || graph.IsEnabled(mnuLine));
+  EXPECT_THAT(dialogs.Said, IsEmpty());
+}
+
+TEST(Translation, AsksClearsThePlotAndTellsWhenItIsDone)
+{
+  SurveyState state = SmallExample();
+  SurveyGraph graph = OpenGraph(state);
+  ShowColourMap(graph, state, mnuVs1);
+  ScriptedDialogs dialogs({false, true});
+  const Plot map = graph.Shown;
+  EXPECT_FALSE(StartTranslation(graph, dialogs));
+  EXPECT_EQ(graph.Shown.Picture, map.Picture);
+  EXPECT_TRUE(StartTranslation(graph, dialogs));
+  EXPECT_EQ(dialogs.Said[1],
+            "ask: WARNING!  Any translation(s) you perform will \nPERMANENTLY change the X and Y "
+            "coordinates!\n\nDo you still wish to proceed with this option?");
+  EXPECT_EQ(graph.Shown.Picture.Marks.size(), Plot::FrameMarks);
+  EXPECT_EQ(graph.Shown.Title, "");
+  EXPECT_FALSE(graph.OverlayAllowed() || graph.Shown.LegendPanel);
+
+  const Limits x = graph.XRange;
+  PctForm form;
+  EXPECT_FALSE(form.Command2Visible());
+  form.Selected = TranslationKind::Swap;
+  ApplyTranslation(form, graph, state, nullptr);
+  EXPECT_TRUE(form.Closed);
+  EXPECT_EQ(graph.Shown.Title, "Translation Completed...");
+  EXPECT_EQ(graph.YRange.Maximum, x.Maximum);
+  EXPECT_FALSE(NorthArrowOffered(state));
+  form.Selected = TranslationKind::Rotate;
+  MoveRotation(form, 200);
+  EXPECT_EQ(form.Text1(), "180");
+}
+
+TEST(Translation, IsRefusedWhileADesignWaits)
+{
+  SurveyState state = SmallExample();
+  SurveyGraph graph = OpenGraph(state);
+  SrsForm design;
+  design.Finished.emplace();
+  PctForm form;
+  form.Selected = TranslationKind::ReverseX;
+  EXPECT_EQ(WholeRefusalOf(state, [&] { ApplyTranslation(form, graph, state, &design); }),
+            "Please save or discard the current sample design first.");
+  EXPECT_FALSE(form.Closed);
+}
+
+TEST(SiteText, TellsAllThatIsKnownOfASite)
+{
+  SurveyState state = SmallExample();
+  state.CoordX[17] = 500123.45;
+  state.CoordY[17] = -117.1234567;
+  state.Signal1[17] = 45.678;
+  state.Signal2[17] = 32;
+  state.Decorr1[17] = 1.005;
+  state.Decorr2[17] = -0.001;
+  EXPECT_EQ(SiteText(state, 17),
+            "Site 18\nx 500123.45, y -117.123457\nEMv 45.68, EMh 32.00\n"
+            "z1 1.01, z2 0.00\nsample design 1\nrow 2");
+  state = ImportedSurvey(GridSurvey(5, 4, 1));
+  state.Signal1[0] = 7;
+  EXPECT_EQ(SiteText(state, 0), "Site 1\nx 0.0, y 0.0\nEMv 7.00\nfree");
+}
+
+}  // namespace
+}  // namespace veln

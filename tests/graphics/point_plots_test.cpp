@@ -1,0 +1,177 @@
+#include "graph_fields.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+namespace veln {
+namespace {
+
+using enum GraphEntry;
+using testing::DoubleNear;
+using testing::Each;
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+const Pen Plain{QBColor(1), 2};
+
+/// Five sites; x from 100 to 180, y from 0 to 40, s1 from 10 to 50, s2 from 2 to 6.
+SurveyState FiveSites()
+{
+  return SitesAt({100, 120, 140, 160, 180}, {0, 40, 20, 10, 30}, {30, 10, 50, 20, 40}, {2, 3, 4, 5, 6});
+}
+
+TEST(PlotBox, IsOneFilledBoxItsFrameAndSixTicks)
+{
+  const Plot plot = PlotOf(FiveSites(), mnuGrid);
+  const auto& marks = plot.Picture.Marks;
+  EXPECT_EQ(marks[0], DrawMark(BoxMark{{-1.05, -1.05}, {1.05, 1.05}, {QBColor(15), 1}, true}));
+  EXPECT_EQ(marks[1], DrawMark(BoxMark{{-1.05, -1.05}, {1.05, 1.05}, {QBColor(0), 2}, false}));
+  EXPECT_EQ(marks[3], DrawMark(LineMark{{-1.08, 0}, {-1.05, 0}, {QBColor(0), 2}}));
+  EXPECT_EQ(marks[7], DrawMark(LineMark{{1, 1.05}, {1, 1.08}, {QBColor(0), 2}}));
+  EXPECT_EQ(Only<LineMark>(plot.Picture).size(), 6);
+}
+
+TEST(ScatterPlot, HasItsExtremesAtOneAndLabelsTitleAndStatistics)
+{
+  const Plot plot = PlotOf(FiveSites(), mnuSs1x);
+  EXPECT_THAT(PlacesX(plot), ElementsAre(-1, -0.5, 0, 0.5, 1));
+  EXPECT_THAT(PlacesY(plot), ElementsAre(0, 1, -1, 0.5, -0.5));
+  EXPECT_THAT(DotPens(plot), Each(Plain));
+  EXPECT_EQ(plot.Labels, (AxisLabels{"100", "140", "180", "10.00", "30.00", "50.00"}));
+  EXPECT_EQ(plot.Title, "EMv versus X");
+  // s1: mean 30, squares 400 + 400 + 100 + 100 = 1000, std sqrt(250); sum of products with x 600, of x
+  // squares 4000, so r = 600 / sqrt(4000 * 1000) = 0.3.
+  EXPECT_EQ(plot.Statistics,
+            (PlotStatistics{"EMv", "u= 30.000", "s= 15.811", "", "", "", "Corr(s1, x)", "r= 0.3000", ""}));
+  EXPECT_TRUE(plot.StatisticsPanel);
+}
+
+TEST(ScatterPlot, OfTheSignalsTakesItsStatisticsFromTheMainWindow)
+{
+  SurveyState state = FiveSites();
+  state.Signals.LblCorr = "0.1234";
+  state.Signals.Rows[1].LblMu = "7.5";
+  const Plot plot = PlotOf(state, mnuSs1s2);
+  EXPECT_THAT(PlacesX(plot), ElementsAre(-1, -0.5, 0, 0.5, 1));
+  EXPECT_EQ(plot.Labels, (AxisLabels{"2.00", "4.00", "6.00", "10.00", "30.00", "50.00"}));
+  EXPECT_EQ(plot.Statistics, (PlotStatistics{"EMv", "u= 30.000", "s= 15.811", "EMh", "u= 7.500", "s= 1.581",
+                                             "Corr(s1, s2)", "r= 0.1234", ""}));
+  EXPECT_EQ(plot.Title, "EMv versus EMh");
+}
+
+TEST(ScatterPlot, OfAConstantSignalHasItsSitesInTheMiddleAndNoCorrelation)
+{
+  const Plot plot = PlotOf(SitesAt({1, 2, 3}, {5, 5, 5}, {7, 7, 7}), mnuSs1y);
+  EXPECT_THAT(PlacesX(plot), Each(0));
+  EXPECT_THAT(PlacesY(plot), Each(0));
+  EXPECT_EQ(plot.Labels, (AxisLabels{"5", "5", "5", "7.00", "7.00", "7.00"}));
+  EXPECT_EQ(plot.Statistics.Lblv1, "s= 0.000");
+  EXPECT_EQ(plot.Statistics.LblCorr, "Corr(s1, y)");
+  EXPECT_EQ(plot.Statistics.Lblr1, "");
+}
+
+TEST(Highlights, LieOverThePlainDotInTheOrderOfTheSites)
+{
+  SurveyState state = FiveSites();
+  state.SiteStatus = {site_status::Masked, 3, site_status::Outlier, site_status::Candidate, 6};
+  SurveyGraph graph = OpenGraph(state);
+  const Pen masked{QBColor(14), 4};
+  const Pen sample{QBColor(11), 4};
+  const Pen outlier{QBColor(4), 4};
+  ShowScatterPlot(graph, state, mnuSs2y);
+  EXPECT_THAT(DotPens(graph.Shown),
+              ElementsAre(Plain, masked, Plain, sample, Plain, outlier, Plain, Plain, sample));
+  const auto dots = Only<DotMark>(graph.Shown.Picture);
+  EXPECT_EQ(dots[0].At, dots[1].At);
+  SetHLOps(graph, false, true);
+  ShowSurveyGrid(graph, state);
+  EXPECT_THAT(DotPens(graph.Shown), ElementsAre(Plain, Plain, sample, Plain, Plain, Plain, sample));
+  SetHLOps(graph, false, false);
+  ShowSurveyGrid(graph, state);
+  EXPECT_THAT(DotPens(graph.Shown), Each(Plain));
+}
+
+TEST(SurveyGridPlot, HasEqualScalesAndNoPanels)
+{
+  const Plot plot = PlotOf(FiveSites(), mnuGrid);
+  // y from 0 to 40 is widened to 80 about 20.
+  EXPECT_EQ(plot.Labels, (AxisLabels{"100", "140", "180", "-20", "20", "60"}));
+  EXPECT_THAT(PlacesY(plot), ElementsAre(0.5, -0.5, 0, 0.25, -0.25));
+  EXPECT_EQ(plot.Title, "Grid Map of Survey Site Locations");
+  EXPECT_TRUE(plot.FieldMap);
+  EXPECT_FALSE(plot.StatisticsPanel || plot.LinePanel || plot.LegendPanel);
+}
+
+SurveyState WithDecorrelated(SurveyState state, std::vector<double> z1, std::vector<double> z2 = {})
+{
+  state.Decorr1 = std::move(z1);
+  state.Decorr2 = std::move(z2);
+  state.DecorrDone = true;
+  return state;
+}
+
+TEST(RsdPlot, IsASquareOfTheLargestMagnitudeAtLeastThree)
+{
+  const Plot small = PlotOf(WithDecorrelated(FiveSites(), {-1, 0, 1, 2, 0}, {0, 2.5, 1, -2, 0}), mnuSz1z2);
+  EXPECT_EQ(small.Labels, (AxisLabels{"-3.00", "0.00", "3.00", "-3.00", "0.00", "3.00"}));
+  const Plot large =
+      PlotOf(WithDecorrelated(FiveSites(), {-4.2, 3.1, 0, 0, 0}, {-2, 5.5, 0, 1, 0}), mnuSz1z2);
+  EXPECT_EQ(large.Labels, (AxisLabels{"-5.50", "0.00", "5.50", "-5.50", "0.00", "5.50"}));
+  EXPECT_EQ(large.Sites[1].At, (DrawPoint{1, -3.1 / 5.5}));
+  EXPECT_EQ(large.Title, "RSD Scatter Plot:  z1 versus z2");
+  EXPECT_EQ(large.Statistics, (PlotStatistics{"z1", "u= 0.000", "s= 1.000", "z2", "u= 0.000", "s= 1.000",
+                                              "Corr(s1, s2)", "r= 0.0000", ""}));
+}
+
+TEST(RsdPlot, HasARayFromTheCentreToEachHighlightedOutlier)
+{
+  SurveyState state = WithDecorrelated(FiveSites(), {-1, 0, 3, 2, 0}, {0, 2, 1.5, -2, 0});
+  state.SiteStatus[2] = site_status::Outlier;
+  state.SiteStatus[3] = site_status::Masked;
+  SurveyGraph graph = OpenGraph(state);
+  DitherGenerator dither;
+  ShowRsdPlot(graph, state, dither);
+  const auto& marks = graph.Shown.Picture.Marks;  // 8 of the box, then two plain dots
+  EXPECT_EQ(marks[10], DrawMark(DotMark{{0.5, -1}, Plain}));
+  EXPECT_EQ(marks[11], DrawMark(LineMark{{0, 0}, {0.5, -1}, {QBColor(4), 1}}));
+  EXPECT_EQ(marks[12], DrawMark(DotMark{{0.5, -1}, {QBColor(4), 4}}));
+  SetHLOps(graph, false, true);
+  ShowRsdPlot(graph, state, dither);
+  EXPECT_THAT(DotPens(graph.Shown), Each(Plain));
+  EXPECT_EQ(Only<LineMark>(graph.Shown.Picture).size(), 6);
+}
+
+TEST(DitherPlot, SpreadsOneSignalOnABandAnewEachTime)
+{
+  SurveyState state = WithDecorrelated(SitesAt({1, 2, 3}, {1, 2, 4}, {5, 6, 7}), {-1.5, 0, 6});
+  SurveyGraph graph = OpenGraph(state);
+  DitherGenerator dither;
+  ShowRsdPlot(graph, state, dither);
+  const Plot first = graph.Shown;
+  EXPECT_EQ(first.Labels, (AxisLabels{"-6.00", "0.00", "6.00", " ", "dither", " "}));
+  EXPECT_EQ(first.Statistics, (PlotStatistics{"z1", "u= 0.000", "s= 1.000", "", "", "", " ", "", ""}));
+  EXPECT_THAT(PlacesX(first), ElementsAre(-0.25, 0, 1));
+  EXPECT_THAT(PlacesY(first), Each(DoubleNear(0, 0.2)));
+  const auto lines = Only<LineMark>(first.Picture);
+  EXPECT_EQ(lines[6], (LineMark{{-1, 0.25}, {1, 0.25}, {QBColor(0), 2}}));
+  EXPECT_EQ(lines[7], (LineMark{{-1, -0.25}, {1, -0.25}, {QBColor(0), 2}}));
+  ShowRsdPlot(graph, state, dither);
+  EXPECT_EQ(PlacesX(graph.Shown), PlacesX(first));
+  EXPECT_NE(PlacesY(graph.Shown), PlacesY(first));
+  DitherGenerator nextRun;
+  ShowRsdPlot(graph, state, nextRun);
+  EXPECT_EQ(PlacesY(graph.Shown), PlacesY(first));
+}
+
+TEST(DitherGenerator, IsSpreadEvenlyOverTheUnitInterval)
+{
+  DitherGenerator dither;
+  std::vector<int> tenths(10);
+  for (int i = 0; i < 10000; ++i) {
+    ++tenths.at(static_cast<std::size_t>(dither.Next() * 10));
+  }
+  EXPECT_THAT(tenths, Each(testing::AllOf(testing::Gt(900), testing::Lt(1100))));
+}
+
+}  // namespace
+}  // namespace veln
