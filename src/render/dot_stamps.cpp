@@ -18,9 +18,9 @@ QImage DrawDot(const Pen& pen)
   dot.fill(Qt::transparent);
   QPainter painter(&dot);
   painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(
-      QPen(QColor(pen.Ink.Red, pen.Ink.Green, pen.Ink.Blue), pen.Width, Qt::SolidLine, Qt::RoundCap));
-  painter.drawPoint(QPointF(side / 2.0, side / 2.0));
+  painter.setPen(Qt::NoPen);
+  painter.setBrush(QColor(pen.Ink.Red, pen.Ink.Green, pen.Ink.Blue));
+  painter.drawEllipse(QPointF(side / 2.0, side / 2.0), pen.Width / 2, pen.Width / 2);
   return dot;
 }
 

@@ -37,7 +37,7 @@ QColor ToQt(Colour colour)
 }
 
 MarkPainter::MarkPainter(QPainter& painter, const Drawing& drawing, const DrawingFrame& frame)
-    : painter_(painter), drawing_(drawing), frame_(frame)
+    : painter_(painter), drawing_(drawing), frame_(frame), textEnd_(frame.Target.right())
 {
   if (DotStamps::Suit(painter)) {
     stamps_.emplace(painter);
@@ -85,8 +85,12 @@ void MarkPainter::operator()(const TextMark& text) const
   const QString shown = QString::fromStdString(text.Text);
   const QFontMetricsF metrics(font, painter_.device());
   const QPointF top = Map(text.At);
-  const double before = metrics.horizontalAdvance(shown) * ShareBefore(text.Anchor);
-  painter_.drawText(QPointF(top.x() - before, top.y() + metrics.ascent()), shown);
+  const double width = metrics.horizontalAdvance(shown);
+  double left = top.x() - width * ShareBefore(text.Anchor);
+  if (left < textEnd_) {
+    left = std::min(left, textEnd_ - width - frame_.Enlarged);
+  }
+  painter_.drawText(QPointF(left, top.y() + metrics.ascent()), shown);
 }
 
 QPen MarkPainter::StrokeOf(const Pen& pen) const

@@ -136,7 +136,8 @@ TEST_F(FrmSvyGraph, EveryEntryDraws)
     EXPECT_EQ(Label("txtTitle"), plot.Title);
     EXPECT_GT(Ink(), frameAlone + 100) << plot.Entry;
     for (const char* frame : {"Frame1", "Frame2", "Frame3"}) {
-      EXPECT_EQ(Shown("frmSvyGraph", frame), std::string(plot.Panels).contains(frame[5])) << plot.Entry;
+      EXPECT_EQ(Shown("frmSvyGraph", frame), (std::string(plot.Panels).find(frame[5]) != std::string::npos))
+          << plot.Entry;
     }
     for (const char* label : {"txtMinX", "txtMedX", "txtMaxX", "txtMinY", "txtMedY", "txtMaxY"}) {
       EXPECT_NE(Label(label), "") << plot.Entry << " " << label;

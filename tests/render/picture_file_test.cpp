@@ -49,7 +49,7 @@ TEST(PictureFile, ShapesAndTextStayThemselvesInSvgAndPdf)
   const std::string pdf = PictureContent(Sample(), PictureFormat::Pdf, 0);
   EXPECT_TRUE(pdf.starts_with("%PDF-"));
   EXPECT_NE(pdf.find("/Font"), std::string::npos);
-  EXPECT_EQ(pdf.find("/Image"), std::string::npos) << "no pixels";
+  EXPECT_EQ(pdf.find("/Subtype /Image"), std::string::npos) << "no pixels";
 }
 
 TEST(PictureFile, FormatComesFromTheName)

@@ -54,6 +54,7 @@ frmSiteMap::frmSiteMap(Program& program, QWidget* parent)
       form_(LoadSiteMap(program.State))
 {
   constexpr double TitleScale = 1.3;
+  constexpr int SmallestMap = 520;
   title_ = MakeValueLabel(this, "lblSMT", "");
   QFont bold = title_->font();
   bold.setBold(true);
@@ -62,6 +63,7 @@ frmSiteMap::frmSiteMap(Program& program, QWidget* parent)
   title_->setAlignment(Qt::AlignCenter);
   map_ = new DrawingView(this);
   map_->setObjectName("MGrid");
+  map_->setMinimumSize(SmallestMap, SmallestMap);
   map_->setAccessibleName("Map of the sample sites");
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);

@@ -69,7 +69,7 @@ std::span<const frmSvyGraph::MenuLine> frmSvyGraph::Menu()
       {"", "mnuO", ""},
       {"scaleBar", "mnuO", "&Scale bar", {}, &frmSvyGraph::RedrawFurniture, "", true},
       {"northArrow", "mnuO", "&North arrow", {}, &frmSvyGraph::RedrawFurniture, "", true},
-      {"safeColours", "mnuO", "Color-&blind-safe map colors", {}, &frmSvyGraph::ToggleColours, "", true},
+      {"safeColours", "mnuO", "Colour-&blind-safe map colours", {}, &frmSvyGraph::ToggleColours, "", true},
       {"mnuP", nullptr, "&Print"},
       {"mnuPrint", "mnuP", "&Print Current Graph", {}, &frmSvyGraph::Print, "Ctrl+P"},
       {"printPreview", "mnuP", "Print Pre&view", {}, &frmSvyGraph::Preview},

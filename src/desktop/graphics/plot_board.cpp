@@ -23,6 +23,7 @@ QLineEdit* MakeShownText(QWidget* parent, const char* name, const char* accessib
   text->setObjectName(name);
   text->setAccessibleName(accessibleName);
   text->setReadOnly(true);
+  text->setFocusPolicy(Qt::ClickFocus);  // the plot's description tells them all
   text->setFrame(false);
   text->setAlignment(side | Qt::AlignVCenter);
   text->setTextMargins(0, 0, 0, 0);
