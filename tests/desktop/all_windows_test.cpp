@@ -2,7 +2,6 @@
 
 #include "desktop/desktop_fixture.h"
 #include "desktop/graphics/frm_igc.h"
-#include "desktop/graphics/frm_legend.h"
 #include "desktop/graphics/frm_pct.h"
 #include "desktop/graphics/frm_site_map.h"
 #include "desktop/graphics/overlay_chooser.h"
@@ -76,7 +75,6 @@ std::vector<Opening> Openings()
       {"frmSvyGraph", designed, [](Program& program) { Draw(program, GraphEntry::mnuHs1); }},
       {"frmIGC", designed, [](Program& program) { program.Show<frmIGC>(); }},
       {"frmPCT", designed, [](Program& program) { program.Show<frmPCT>(); }},
-      {"frmLegend", designed, [](Program& program) { program.Show<frmLegend>(); }},
       {"overlayChooser", designed,
        [](Program& program) {
          Draw(program, GraphEntry::mnuVs1);

@@ -64,6 +64,7 @@ frmSiteMap::frmSiteMap(Program& program, QWidget* parent)
   map_ = new DrawingView(this);
   map_->setObjectName("MGrid");
   map_->setMinimumSize(SmallestMap, SmallestMap);
+  map_->setFocusPolicy(Qt::StrongFocus);  // a screen reader comes to its description
   map_->setAccessibleName("Map of the sample sites");
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);

@@ -33,7 +33,9 @@ class RowEdit : public QLineEdit {
   void keyPressEvent(QKeyEvent* event) override
   {
     const QList<uint> typed = event->text().toUcs4();
-    if (typed.size() == 1 && QChar::isPrint(typed.constFirst()) && !filter_(typed.constFirst())) {
+    const bool enters = typed.size() == 1 && QChar::isPrint(typed.constFirst()) &&
+                        (event->modifiers() & Qt::ControlModifier) == 0;
+    if (enters && !filter_(typed.constFirst())) {
       return;
     }
     QLineEdit::keyPressEvent(event);
