@@ -59,12 +59,15 @@ void DrawingView::BringPictureUpToDate()
   const QSize wanted = size() * devicePixelRatioF();
   if (picture_.size() != wanted) {
     picture_ = QImage(wanted, QImage::Format_RGB32);
-    picture_.setDevicePixelRatio(devicePixelRatioF());
     picture_.fill(palette().color(QPalette::Window));
     painted_ = 0;
   }
-  QPainter painter(&picture_);
-  PaintDrawing(painter, *drawing_, FitDrawing(*drawing_, rect()), painted_);
+  picture_.setDevicePixelRatio(1);  // painted in the screen's own pixels
+  {
+    QPainter painter(&picture_);
+    PaintDrawing(painter, *drawing_, FitDrawing(*drawing_, QRectF(QPointF(), QSizeF(wanted))), painted_);
+  }
+  picture_.setDevicePixelRatio(devicePixelRatioF());
   painted_ = drawing_->Marks.size();
 }
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graphics/dither.h"
 #include "toolkit/clock.h"
 #include "toolkit/dialogs.h"
 #include "workspace/survey_state.h"
@@ -36,6 +37,7 @@ class Program {
   Program(Dialogs& dialogs, Clock clock, QSettings& settings);
 
   SurveyState State;
+  DitherGenerator Dither;        ///< of the dither plots: one for a run of the program
   FileSaver ChooseFile;          ///< the platform's save dialog, unless replaced
   PrinterChooser ChoosePrinter;  ///< the platform's print dialog, unless replaced
   std::function<void()> Quit;    ///< leaves the event loop, unless replaced

@@ -6,6 +6,12 @@
 #include "desktop/design/frm_srs.h"
 #include "desktop/design/frm_srs_opt.h"
 #include "desktop/desktop_fixture.h"
+#include "desktop/graphics/frm_igc.h"
+#include "desktop/graphics/frm_pct.h"
+#include "desktop/graphics/frm_site_map.h"
+#include "desktop/graphics/overlay_chooser.h"
+#include "desktop/graphics/picture_dialog.h"
+#include "desktop/graphics_fixture.h"
 #include "desktop/signal/frm_list.h"
 #include "desktop/signal/frm_sig_decorr.h"
 #include "desktop/signal/frm_sig_val.h"
@@ -45,6 +51,13 @@ struct Opening {
   std::function<void(Program&)> Show;
 };
 
+/// The graphics window with a plot in it.
+void Draw(Program& program, GraphEntry entry)
+{
+  program.Show<frmSvyGraph>()->Act(
+      [&](SurveyGraph& graph) { SelectGraph(graph, program.State, entry, program.Dither); });
+}
+
 std::vector<Opening> Openings()
 {
   const SurveyState imported = ImportedSurvey(SurveyWithOutlier());
@@ -52,6 +65,7 @@ std::vector<Opening> Openings()
   SurveyState saved = AcceptedSurvey(SurveyWithOutlier());
   saved.ManualDesignDone = true;
   const SurveyState accepted = AcceptedSurvey(TransectSurvey(20, 20));
+  const SurveyState designed = SurveyWithDesigns();
   return {
       {"frmProject", {}, [](Program& program) { program.Show<frmProject>(); }},
       {"frmFileIO", {}, [](Program& program) { program.Show<frmFileIO>(); }},
@@ -76,6 +90,21 @@ std::vector<Opening> Openings()
        [](Program& program) {
          program.ShowWith<frmSRSOpt>([&](QWidget* main) { return new frmSRSOpt(program, main, {}); });
        }},
+      {"frmSvyGraph", designed, [](Program& program) { Draw(program, GraphEntry::mnuHs1); }},
+      {"frmIGC", designed, [](Program& program) { program.Show<frmIGC>(); }},
+      {"frmPCT", designed, [](Program& program) { program.Show<frmPCT>(); }},
+      {"overlayChooser", designed,
+       [](Program& program) {
+         Draw(program, GraphEntry::mnuVs1);
+         program.Show<OverlayChooser>();
+       }},
+      {"pictureDialog", designed,
+       [](Program& program) {
+         auto* owner = program.Show<frmSiteMap>();
+         program.ShowWith<PictureDialog>(
+             [&](QWidget*) { return new PictureDialog(program, owner, {}, "map"); });
+       }},
+      {"frmSiteMap", designed, [](Program& program) { program.Show<frmSiteMap>(); }},
   };
 }
 

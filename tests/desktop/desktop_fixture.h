@@ -133,11 +133,61 @@ class DesktopTest : public testing::Test {
   /// Whether a control is to be seen, scrolled away or not.
   static bool Shown(const char* window, const char* name) { return Control(window, name).isVisible(); }
 
+  /// Chooses an entry of a window's menus by the mouse. False if it, or a menu above it, is disabled.
+  static bool ChooseFrom(QMenuBar& bar, QAction& entry)
+  {
+    const bool open = OpenMenuOf(bar, entry) && entry.isEnabled();
+    if (open) {
+      QMenu* menu = MenuOf(entry);
+      QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(&entry).center());
+    }
+    while (QWidget* popup = QApplication::activePopupWidget()) {
+      popup->close();
+    }
+    Settle();
+    return open;
+  }
+
   TemporaryDirectory Directory;
   ScriptedDialogs Asked;
   QSettings Places{QString::fromStdString((Directory / "places.ini").string()), QSettings::IniFormat};
   Program Shared{Asked, [] { return std::string("2026-11-22 14:05:09"); }, Places};
   int Ended = 0;  ///< how often the program was to end
+
+ private:
+  /// The menu that an entry stands in; null for one of the menu bar, which also stands in the bar's own
+  /// overflow menu.
+  static QMenu* MenuOf(const QAction& action)
+  {
+    QMenu* menu = nullptr;
+    for (QObject* object : action.associatedObjects()) {
+      if (dynamic_cast<QMenuBar*>(object) != nullptr) {
+        return nullptr;
+      }
+      menu = dynamic_cast<QMenu*>(object);
+    }
+    return menu;
+  }
+
+  static bool OpenMenuOf(QMenuBar& bar, QAction& action)
+  {
+    QMenu* menu = MenuOf(action);
+    if (menu == nullptr) {
+      return false;
+    }
+    QAction* opener = menu->menuAction();
+    if (MenuOf(*opener) == nullptr) {
+      QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(opener).center());
+    } else {
+      if (!OpenMenuOf(bar, *opener) || !opener->isEnabled()) {
+        return false;
+      }
+      QMenu* above = MenuOf(*opener);
+      QTest::mouseClick(above, Qt::LeftButton, {}, above->actionGeometry(opener).center());
+    }
+    // Submenus open after a moment.
+    return QTest::qWaitFor([menu] { return menu->isVisible(); }, 1000);
+  }
 };
 
 /// A program with its main window open.
@@ -166,58 +216,10 @@ class MainWindowTest : public DesktopTest {
     return *action;
   }
 
-  /// Chooses an entry by the mouse, through the menus above it. False if it, or a menu above it, is disabled.
-  bool Choose(const char* name)
-  {
-    const bool open = OpenMenuOf(Entry(name)) && Entry(name).isEnabled();
-    if (open) {
-      QMenu* menu = MenuOf(Entry(name));
-      QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(&Entry(name)).center());
-    }
-    while (QWidget* popup = QApplication::activePopupWidget()) {
-      popup->close();
-    }
-    Settle();
-    return open;
-  }
+  /// Chooses an entry of the main window by the mouse. False if it can't be chosen.
+  bool Choose(const char* name) { return ChooseFrom(*Main->menuBar(), Entry(name)); }
 
   std::unique_ptr<frmMain> Main;
-
- private:
-  /// The menu that an entry stands in; null for one of the menu bar, which also stands in the bar's own
-  /// overflow menu.
-  static QMenu* MenuOf(const QAction& action)
-  {
-    QMenu* menu = nullptr;
-    for (QObject* object : action.associatedObjects()) {
-      if (dynamic_cast<QMenuBar*>(object) != nullptr) {
-        return nullptr;
-      }
-      menu = dynamic_cast<QMenu*>(object);
-    }
-    return menu;
-  }
-
-  bool OpenMenuOf(QAction& action)
-  {
-    QMenu* menu = MenuOf(action);
-    if (menu == nullptr) {
-      return false;
-    }
-    QAction* opener = menu->menuAction();
-    if (MenuOf(*opener) == nullptr) {
-      QMenuBar* bar = Main->menuBar();
-      QTest::mouseClick(bar, Qt::LeftButton, {}, bar->actionGeometry(opener).center());
-    } else {
-      if (!OpenMenuOf(*opener) || !opener->isEnabled()) {
-        return false;
-      }
-      QMenu* above = MenuOf(*opener);
-      QTest::mouseClick(above, Qt::LeftButton, {}, above->actionGeometry(opener).center());
-    }
-    // Submenus open after a moment.
-    return QTest::qWaitFor([menu] { return menu->isVisible(); }, 1000);
-  }
 };
 
 }  // namespace veln

@@ -1,5 +1,4 @@
 #include "desktop/desktop_fixture.h"
-#include "desktop/missing_windows.h"
 #include "support/surveys.h"
 #include "workspace/next_step.h"
 
@@ -96,14 +95,12 @@ TEST_F(FrmMain, KeysOfCaptionsAreUniqueWithinTheirMenu)
   }
 }
 
-TEST_F(FrmMain, EnablesWhatTheWorkflowOpensAndNoMissingWindow)
+TEST_F(FrmMain, EnablesWhatTheWorkflowOpens)
 {
   const auto expectMirrored = [this](const char* when) {
     for (const GivenEntry& given : GivenEntries) {
       const auto gate = Gates.find(given.Name);
-      const bool open =
-          gate == Gates.end() || (Shared.State.Menu.IsEnabled(gate->second) &&
-                                  std::ranges::count(EntriesOfMissingWindows, gate->second) == 0);
+      const bool open = gate == Gates.end() || Shared.State.Menu.IsEnabled(gate->second);
       EXPECT_EQ(Entry(given.Name).isEnabled(), open) << given.Name << " after " << when;
     }
   };

@@ -1,7 +1,6 @@
 #include "desktop/workspace/frm_main.h"
 
 #include "desktop/controls.h"
-#include "desktop/missing_windows.h"
 #include "desktop/survey/frm_out_fd.h"
 #include "desktop/survey/frm_structure.h"
 #include "desktop/text_roles.h"
@@ -25,7 +24,6 @@
 #include <QUrl>
 #include <QVBoxLayout>
 
-#include <algorithm>
 #include <utility>
 
 namespace veln {
@@ -33,11 +31,6 @@ namespace veln {
 namespace {
 
 constexpr const char* GeometryKey = "windows/frmMain";
-
-bool IsMissing(MenuEntry entry)
-{
-  return std::ranges::find(EntriesOfMissingWindows, entry) != EntriesOfMissingWindows.end();
-}
 
 /// The one file that is dragged; empty for anything else.
 QString DraggedFile(const QMimeData& data)
@@ -99,7 +92,7 @@ void frmMain::MakeMenus()
 {
   for (const MainMenuLine& line : MainMenu()) {
     auto* above = line.Menu == nullptr ? nullptr : findChild<QMenu*>(line.Menu);
-    const bool submenu = line.Action == nullptr && !(line.Gate && IsMissing(*line.Gate));
+    const bool submenu = line.Action == nullptr;
     QAction* action = nullptr;
     if (submenu) {
       QMenu* menu = above == nullptr ? menuBar()->addMenu(line.Caption) : above->addMenu(line.Caption);
@@ -251,11 +244,11 @@ void frmMain::Mirror()
   }
 }
 
-/// The one place where entries are enabled: as the workflow says, but for windows that are missing.
+/// The one place where entries are enabled: as the workflow says.
 void frmMain::MirrorMenus()
 {
   for (const MainMenuLine& line : MainMenu()) {
-    const bool open = !line.Gate || (program_.State.Menu.IsEnabled(*line.Gate) && !IsMissing(*line.Gate));
+    const bool open = !line.Gate || program_.State.Menu.IsEnabled(*line.Gate);
     findChild<QAction*>(line.Name)->setEnabled(open);
   }
 }
@@ -278,7 +271,7 @@ void frmMain::MirrorStart()
     dropLine_->setText(begun ? "Drop a survey file here, or choose File, Import Survey Data File."
                              : "A survey file dropped here is kept until the project is set.");
   }
-  const QString step = ToQt(NextStep(state, !IsMissing(MenuEntry::mnuSRS)));
+  const QString step = ToQt(NextStep(state));
   ShowValue(*nextStep_, keptFile_.isEmpty() ? step : step + "; " + name + " is kept for the import");
 }
 

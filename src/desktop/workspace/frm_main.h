@@ -27,7 +27,7 @@ struct MainMenuLine {
   const char* Menu;  ///< the submenu it stands in; null for the menu bar
   const char* Caption;
   std::optional<MenuEntry> Gate = std::nullopt;  ///< what enables it; without one it always is
-  void (*Action)(frmMain&) = nullptr;            ///< none for a submenu or a window that is missing
+  void (*Action)(frmMain&) = nullptr;            ///< none for a submenu
   const char* Shortcut = "";
 };
 

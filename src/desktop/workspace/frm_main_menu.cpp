@@ -1,6 +1,8 @@
 #include "desktop/child_window.h"
 #include "desktop/design/frm_mask.h"
 #include "desktop/design/frm_srs.h"
+#include "desktop/graphics/frm_site_map.h"
+#include "desktop/graphics/frm_svy_graph.h"
 #include "desktop/help_request.h"
 #include "desktop/signal/frm_sig_decorr.h"
 #include "desktop/signal/frm_sig_val.h"
@@ -40,7 +42,7 @@ const std::array<MainMenuLine, 24> Lines = {{
     {"mnuVPOF", "mnuFile", "&View / Print Output Files", mnuVPOF, ViewOutput},
     {"mnuExit", "mnuFile", "E&xit", {}, [](frmMain& main) { main.Exit(); }, "Ctrl+Q"},
     {"mnuG", nullptr, "&Graph"},
-    {"mnuSG", "mnuG", "&Open Graphics Window", mnuSG},
+    {"mnuSG", "mnuG", "&Open Graphics Window", mnuSG, Open<frmSvyGraph>},
     {"mnuA", nullptr, "&Analysis"},
     {"mnuStats", "mnuA", "&Basic Statistics", mnuStats, Open<frmBasicStats>},
     {"mnuSigD", "mnuA", "Signal &Decorrelation", mnuSigD, Open<frmSigDecorr>},
@@ -48,7 +50,7 @@ const std::array<MainMenuLine, 24> Lines = {{
     {"mnuD", nullptr, "&Design"},
     {"mnuSRS", "mnuD", "&Calculate SRS Sample Design", mnuSRS, Open<frmSRS>},
     {"mnuMask", "mnuD", "&Manual Sample Site Selection", mnuMask, Open<frmMask>},
-    {"mnuSHowMap", "mnuD", "&Display Sample Site Map", mnuSHowMap},
+    {"mnuSHowMap", "mnuD", "&Display Sample Site Map", mnuSHowMap, Open<frmSiteMap>},
     {"mnuHelp", nullptr, "&Help"},
     {"mnuAbout", "mnuHelp", "&About VELN-QTRD ", {}, Open<frmAbout>},
     {"mnuEIC", "mnuHelp", "VELN &Interface Controls", {}, Open<frmFileIO>},

@@ -1,0 +1,45 @@
+#include "desktop/graphics/choices.h"
+
+#include "desktop/controls.h"
+#include "desktop/text_roles.h"
+
+#include <QCheckBox>
+#include <QRadioButton>
+#include <QSignalBlocker>
+
+namespace veln {
+
+namespace {
+
+void InitChoice(QAbstractButton& button, const char* name, const QString& toolTip)
+{
+  button.setObjectName(name);
+  button.setToolTip(toolTip);
+  button.setAccessibleName(WithoutKey(button.text()).trimmed());
+}
+
+}  // namespace
+
+QRadioButton* MakeOption(QWidget* parent, const char* name, const QString& caption, const QString& toolTip)
+{
+  auto* option = new QRadioButton(caption, parent);
+  option->setAutoExclusive(false);
+  InitChoice(*option, name, toolTip);
+  return option;
+}
+
+QCheckBox* MakeCheck(QWidget* parent, const char* name, const QString& caption, const QString& toolTip)
+{
+  auto* check = new QCheckBox(caption, parent);
+  InitChoice(*check, name, toolTip);
+  return check;
+}
+
+void ShowChoice(QAbstractButton& button, bool on)
+{
+  const QSignalBlocker quiet(button);
+  button.setChecked(on);
+  SetRole(button, on ? TextRole::Chosen : TextRole::Normal);
+}
+
+}  // namespace veln

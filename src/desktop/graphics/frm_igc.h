@@ -1,0 +1,48 @@
+#pragma once
+
+#include "desktop/child_window.h"
+#include "graphics/igc_form.h"
+
+#include <array>
+
+class QCheckBox;
+class QGridLayout;
+class QGroupBox;
+class QLabel;
+class QLayout;
+class QLineEdit;
+class QRadioButton;
+class QScrollBar;
+
+namespace veln {
+
+/// "Graphics Initialization": the options of the plots of frmSvyGraph. Mirrors `IgcForm`.
+class frmIGC : public ChildWindow {
+ public:
+  static constexpr const char* Name = "frmIGC";
+
+  frmIGC(Program& program, QWidget* parent);
+
+ private:
+  QLayout* MakeDirection();
+  QLayout* MakeChecks();
+  QGroupBox* MakePalettes();
+  void AddPalette(QGridLayout& grid, int number, const QString& caption);
+  QLayout* MakeSymbolSize();
+  QGroupBox* MakePlaces();
+  void Initialize();
+  void Mirror();
+
+  IgcForm form_;
+  QLabel* directionCaption_;
+  std::array<QRadioButton*, 2> directions_{};
+  std::array<QCheckBox*, 5> checks_{};  // `Check1` to `Check5`
+  QGroupBox* paletteFrame_;
+  std::array<QRadioButton*, 4> palettes_{};
+  QLabel* sizeCaption_;
+  QScrollBar* sizeBar_;
+  QLineEdit* sizeText_;
+  std::array<QRadioButton*, 4> places_{};
+};
+
+}  // namespace veln

@@ -1,0 +1,55 @@
+#include "desktop/graphics/picture_actions.h"
+
+#include "toolkit/refusal.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QPrintPreviewDialog>
+#include <QPrinter>
+
+namespace veln {
+
+bool PrintOnePage(Program& program, QWidget* parent, const std::function<bool(QPrinter& printer)>& paint)
+{
+  bool sent = false;
+  program.Try([&] {
+    QPrinter printer(QPrinter::HighResolution);
+    if (!program.ChoosePrinter(printer, parent)) {
+      return;
+    }
+    if (!paint(printer) || printer.printerState() == QPrinter::Error) {
+      throw Refusal("The page could not be printed.\nThe printer reports an error.");
+    }
+    sent = true;
+  });
+  return sent;
+}
+
+bool PrintPicture(Program& program, QWidget* parent, const Drawing& page)
+{
+  return PrintOnePage(program, parent, [&page](QPrinter& printer) { return PaintPage(printer, page); });
+}
+
+void PreviewPicture(QWidget* parent, const Drawing& page)
+{
+  constexpr QSize FirstSize(800, 700);
+  auto* preview = new QPrintPreviewDialog(parent);
+  preview->setObjectName("printPreviewDialog");
+  preview->setAttribute(Qt::WA_DeleteOnClose);
+  preview->resize(FirstSize);
+  QObject::connect(preview, &QPrintPreviewDialog::paintRequested, preview,
+                   [page](QPrinter* printer) { PaintPage(*printer, page); });
+  preview->open();
+}
+
+void CopyPicture(const Picture& picture)
+{
+  constexpr int Enlarged = 2;
+  auto* data = new QMimeData;
+  data->setImageData(PictureImage(picture.Page, static_cast<int>(picture.Page.PixelWidth) * Enlarged));
+  data->setData("image/svg+xml", QByteArray::fromStdString(PictureContent(picture, PictureFormat::Svg, 0)));
+  QGuiApplication::clipboard()->setMimeData(data);
+}
+
+}  // namespace veln

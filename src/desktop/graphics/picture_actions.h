@@ -1,0 +1,21 @@
+#pragma once
+
+#include "desktop/program.h"
+#include "render/picture_file.h"
+
+namespace veln {
+
+/// Prints a picture on a printer that the user chooses. Cancelling prints nothing; a print that fails is told
+/// with the reason. True once the page was sent.
+bool PrintPicture(Program& program, QWidget* parent, const Drawing& page);
+
+/// The same for any page: `paint` returns false if the printer could not be painted on.
+bool PrintOnePage(Program& program, QWidget* parent, const std::function<bool(QPrinter& printer)>& paint);
+
+/// Shows how the page would be printed, in a window of its own.
+void PreviewPicture(QWidget* parent, const Drawing& page);
+
+/// Puts a picture on the clipboard, as pixels and as SVG.
+void CopyPicture(const Picture& picture);
+
+}  // namespace veln

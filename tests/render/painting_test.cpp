@@ -1,0 +1,192 @@
+#include "render/drawing_painter.h"
+
+#include <QImage>
+#include <QPainter>
+#include <QPicture>
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <cstdlib>
+#include <vector>
+
+namespace veln {
+namespace {
+
+constexpr int Side = 100;
+
+/// A surface of 100 by 100 pixels whose coordinates are pixels.
+Drawing Sheet()
+{
+  return {0, 0, Side, Side, Side, {}, {}};
+}
+
+QImage Blank(int side = Side)
+{
+  QImage image(side, side, QImage::Format_RGB32);
+  image.fill(Qt::white);
+  return image;
+}
+
+QImage Painted(const Drawing& drawing, int side = Side)
+{
+  QImage image = Blank(side);
+  QPainter painter(&image);
+  PaintDrawing(painter, drawing, FitDrawing(drawing, image.rect()));
+  return image;
+}
+
+int Difference(const QImage& a, const QImage& b)
+{
+  int most = 0;
+  for (int y = 0; y < a.height(); ++y) {
+    for (int x = 0; x < a.width(); ++x) {
+      const QColor p = a.pixelColor(x, y);
+      const QColor q = b.pixelColor(x, y);
+      most = std::max({most, std::abs(p.red() - q.red()), std::abs(p.green() - q.green()),
+                       std::abs(p.blue() - q.blue())});
+    }
+  }
+  return most;
+}
+
+/// Dots stamped on a screen of 100 % and 200 % against the toolkit's own discs at the same pixels.
+TEST(Painting, StampedDotsCoverWhatPlainDotsCover)
+{
+  for (const int ratio : {1, 2}) {
+    for (const double width : {1.0, 2.0, 4.0, 5.0, 6.0, 10.0}) {
+      Drawing drawing = Sheet();
+      QImage plain = Blank(Side * ratio);
+      QPainter painter(&plain);
+      painter.setRenderHint(QPainter::Antialiasing);
+      painter.setPen(Qt::NoPen);
+      const Colour inks[] = {{255, 192, 0}, {128, 64, 64}};
+      for (int i = 0; i < 9; ++i) {
+        // Whole pixels for even widths, the middle of pixels for odd ones; neighbours overlap.
+        const double shift = static_cast<int>(width * ratio) % 2 == 0 ? 0 : 0.5 / ratio;
+        const DrawPoint at{20 + 3.0 * i + shift, 20 + 4.0 * i + shift};
+        const Colour ink = inks[i % 2];
+        drawing.PSet(at, {ink, width});
+        painter.setBrush(QColor(ink.Red, ink.Green, ink.Blue));
+        painter.drawEllipse(QPointF(at.X * ratio, at.Y * ratio), width * ratio / 2, width * ratio / 2);
+      }
+      painter.end();
+      EXPECT_LE(Difference(Painted(drawing, Side * ratio), plain), 12) << width << " at " << ratio;
+    }
+  }
+}
+
+TEST(Painting, StampIsAtMostHalfAPixelFromItsPlace)
+{
+  for (const double at : {50.0, 50.2, 50.49, 50.7, 50.99}) {
+    Drawing drawing = Sheet();
+    drawing.PSet({at, at}, {{0, 0, 0}, 4});
+    const QImage image = Painted(drawing);
+    double weight = 0;
+    double x = 0;
+    for (int column = 0; column < Side; ++column) {
+      for (int row = 0; row < Side; ++row) {
+        const double ink = 255 - image.pixelColor(column, row).red();
+        weight += ink;
+        x += ink * (column + 0.5);
+      }
+    }
+    EXPECT_NEAR(x / weight, at, 0.51);
+    EXPECT_NEAR(weight / 255, 3.14159 * 4, 1.0);  // the area of the dot
+  }
+}
+
+TEST(Painting, ClippedMarksShowInsideTheirBoxAlone)
+{
+  Drawing drawing = Sheet();
+  drawing.PSet({10, 10}, {{0, 0, 0}, 8});  // before the clipped marks
+  for (const double x : {30.0, 45.0, 70.0}) {
+    drawing.PSet({x, 50}, {{0, 0, 0}, 8});
+  }
+  drawing.PSet({90, 90}, {{0, 0, 0}, 8});  // behind them
+  drawing.Clip = ClippedMarks{{30, 30}, {60, 60}, 1, 4};
+  const QImage image = Painted(drawing);
+  EXPECT_EQ(image.pixelColor(10, 10), QColor(Qt::black));
+  EXPECT_EQ(image.pixelColor(27, 50), QColor(Qt::white));  // cut off at the box
+  EXPECT_EQ(image.pixelColor(31, 50), QColor(Qt::black));
+  EXPECT_EQ(image.pixelColor(45, 50), QColor(Qt::black));
+  EXPECT_EQ(image.pixelColor(70, 50), QColor(Qt::white));
+  EXPECT_EQ(image.pixelColor(90, 90), QColor(Qt::black));
+}
+
+/// The first and the last column with ink.
+std::pair<int, int> InkColumns(const QImage& image)
+{
+  std::pair<int, int> columns{image.width(), -1};
+  for (int x = 0; x < image.width(); ++x) {
+    for (int y = 0; y < image.height(); ++y) {
+      if (image.pixelColor(x, y).lightness() < 128) {
+        columns = {std::min(columns.first, x), std::max(columns.second, x)};
+      }
+    }
+  }
+  return columns;
+}
+
+TEST(Painting, TextStandsAtItsAnchor)
+{
+  for (const auto& [anchor, low, high] :
+       {std::tuple{TextAnchor::Start, 50, 80}, std::tuple{TextAnchor::Middle, 35, 65},
+        std::tuple{TextAnchor::End, 20, 51}}) {
+    Drawing drawing = Sheet();
+    drawing.Marks.emplace_back(TextMark{{50, 40}, "HHH", {0, 0, 0}, 8, false, anchor});
+    const auto [first, last] = InkColumns(Painted(drawing));
+    EXPECT_GE(first, low);
+    EXPECT_LE(last, high);
+    EXPECT_GT(last - first, 10);
+    if (anchor == TextAnchor::Middle) {
+      EXPECT_NEAR((first + last) / 2.0, 50, 1.5);
+    }
+  }
+}
+
+TEST(Painting, TextNearTheEdgeStaysWhole)
+{
+  Drawing drawing = Sheet();
+  drawing.Marks.emplace_back(TextMark{{92, 40}, " 1458", {0, 0, 0}, 8, true});
+  Drawing inside = Sheet();
+  inside.Marks.emplace_back(TextMark{{20, 40}, " 1458", {0, 0, 0}, 8, true});
+  const auto [first, last] = InkColumns(Painted(drawing));
+  const auto [whole, end] = InkColumns(Painted(inside));
+  EXPECT_NEAR(last - first, end - whole, 2);
+  EXPECT_LT(last, Side);
+}
+
+TEST(Painting, BarWithoutHeightIsAThinLine)
+{
+  Drawing drawing = Sheet();
+  drawing.FillBox({20, 60}, {40, 60}, {0, 128, 0});
+  const QImage image = Painted(drawing);
+  EXPECT_LT(image.pixelColor(30, 59).red() + image.pixelColor(30, 60).red(), 2 * 255);
+  EXPECT_EQ(image.pixelColor(30, 57), QColor(Qt::white));
+}
+
+/// What devices that keep shapes are told, played on pixels: what was drawn later lies above.
+TEST(Painting, ShapesLieInTheOrderOfTheirMarks)
+{
+  constexpr Colour Inks[] = {{255, 0, 0}, {0, 0, 255}, {0, 128, 0}};
+  Drawing drawing = Sheet();
+  for (int i = 0; i < 30; ++i) {
+    drawing.PSet({10.0 + 2 * i, 30}, {Inks[i % 3], i % 2 == 0 ? 8.0 : 6.0});
+    drawing.Line({10.0 + 2 * i, 60}, {90.0 - 2 * i, 90}, {Inks[(i + 1) % 3], 3});
+  }
+  QPicture shapes;
+  {
+    QPainter painter(&shapes);
+    PaintDrawing(painter, drawing, FitDrawing(drawing, QRectF(0, 0, Side, Side)));
+  }
+  QImage played = Blank();
+  QPainter(&played).drawPicture(0, 0, shapes);
+  const QImage painted = Painted(drawing);
+  for (int i = 0; i < 30; ++i) {
+    EXPECT_EQ(played.pixelColor(10 + 2 * i, 30), painted.pixelColor(10 + 2 * i, 30)) << i;
+    EXPECT_EQ(played.pixelColor(11 + 2 * i, 75), painted.pixelColor(11 + 2 * i, 75)) << i;
+  }
+}
+
+}  // namespace
+}  // namespace veln
