@@ -141,9 +141,9 @@ void PlotBoard::Arrange()
   const int top = (height() - titleHeight - side - labelHeight) / 2 + titleHeight;
   title_->setGeometry(0, top - titleHeight, width(), titleHeight);
   pane_->setGeometry(left, top, side, side);
-  const double ticks[] = {-1, 0, 1};
+  constexpr std::array<double, 3> Ticks = {-1, 0, 1};
   for (std::size_t i = 0; i < labelsY_.size(); ++i) {
-    const double y = top + pane_->OnScreen({0, ticks[i]}).y();
+    const double y = top + pane_->OnScreen({0, Ticks.at(i)}).y();
     labelsY_.at(i)->setGeometry(left - column, qRound(y - labelHeight / 2.0), column - SmallGap / 4,
                                 labelHeight);
   }
