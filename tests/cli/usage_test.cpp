@@ -25,79 +25,62 @@ std::string Repeated(const std::string& text, int count)
 
 using Arguments = std::vector<std::string>;
 
+/// An option with values that are wrong whatever the survey.
+struct WrongValues {
+  const char* Option;
+  std::vector<std::string> Values;
+};
+
 /// What is wrong whatever the survey, behind "veln run survey.txt".
-const std::vector<Arguments>& WrongOptions()
+std::vector<Arguments> WrongOptions()
 {
-  static const std::vector<Arguments> wrong = {
+  const std::vector<WrongValues> table = {
+      {"--plot",
+       {"grid", "grid=", "chart=a.svg", "s2-y=a.svg", "map-ta=a.svg", "line-s1:1=a.svg", "sites:7=a.svg"}},
+      {"--palette", {"5"}},
+      {"--symbol-size", {"0"}},
+      {"--decimals", {"2.5"}},
+      {"--direction", {"nw"}},
+      {"--type", {"lattice"}},
+      {"--units", {"S/m"}},
+      {"--convert-units", {"mS/m"}},
+      {"--translate", {"rotate=181", "rotate=1.5", ""}},
+      {"--masking-level", {"2.99", "3.505", "nan"}},
+      {"--outlier-level", {"6.01"}},
+      {"--delete-outliers", {"-1", "some"}},
+      {"--edge-buffer", {"ends"}},
+      {"--reduce", {"40"}},
+      {"--ads", {"half", "full,"}},
+      {"--design",
+       {"7", "[12,6]", "12,", "12,d=0.79", "12,d=1.21", "12,d=1.005", "12,stratum=0", "12,stratum=10"}},
+      {"--manual", {"", "1,,2", "-3"}},
+      {"--field", {"abc", "abcde", "ab_1", "abc\xc3\xa4"}},
+      {"--project", {"", "..", "two words", "a/b", "one\ntwo"}},
+      {"--label1", {Repeated("\xc3\xa4", 11), "EM\xff", "EM\nv"}},
+      {"--label2", {"12345678901"}},
+      {"--description", {Repeated("d", 61), "one\rtwo"}},
+      {"--root", {"one\ntwo"}}};
+  std::vector<Arguments> wrong = {
       {"--bogus"},
       {"second.txt"},
       {"--root"},
       {"--json=maybe"},
-      {"--field", "abcd", "--field", "efgh"},
-      {"--plot", "grid"},
-      {"--plot", "grid="},
-      {"--plot", "chart=a.svg"},
-      {"--plot", "s2-y=a.svg"},
-      {"--plot", "map-ta=a.svg"},
-      {"--plot", "line-s1:1=a.svg"},
-      {"--type", "transect", "--plot", "line-s1:-1=a.svg"},
-      {"--plot", "sites:7=a.svg"},
-      {"--plot", "grid=a.svg", "--plot", "rsd=./a.svg"},
-      {"--palette", "5"},
-      {"--symbol-size", "0"},
-      {"--decimals", "2.5"},
-      {"--direction", "nw"},
-      {"--type", "lattice"},
-      {"--units", "S/m"},
-      {"--convert-units", "mS/m"},
-      {"--units", "dS/m", "--convert-units", "dS/m"},
-      {"--translate", "rotate=181"},
-      {"--translate", "rotate=1.5"},
-      {"--translate", ""},
-      {"--masking-level", "2.99"},
-      {"--outlier-level", "6.01"},
-      {"--masking-level", "3.505"},
       {"--masking-level="},
-      {"--masking-level", "nan"},
-      {"--delete-outliers", "-1"},
-      {"--delete-outliers", "some"},
-      {"--edge-buffer", "ends"},
       {"--transition"},
+      {"--field", "abcd", "--field", "efgh"},
+      {"--units", "dS/m", "--convert-units", "dS/m"},
+      {"--plot", "grid=a.svg", "--plot", "rsd=./a.svg"},
+      {"--type", "transect", "--plot", "line-s1:-1=a.svg"},
       {"--type", "transect", "--transition-file"},
       {"--type", "transect", "--edge-buffer", "both"},
-      {"--reduce", "40"},
-      {"--ads", "half"},
-      {"--ads", "full,"},
       {"--type", "transect", "--ads", "full,ignore-ta"},
-      {"--design", "7"},
-      {"--design", "[12,6]"},
-      {"--design", "12,"},
-      {"--design", "12,d=0.79"},
-      {"--design", "12,d=1.21"},
-      {"--design", "12,d=1.005"},
-      {"--design", "12,stratum=0"},
-      {"--design", "12,stratum=10"},
       {"--type", "transect", "--design", "12,ignore-ta"},
-      {"--design", "6", "--design", "6", "--design", "6", "--design", "6", "--design", "6", "--design", "6"},
-      {"--manual", ""},
-      {"--manual", "1,,2"},
-      {"--manual", "-3"},
-      {"--field", "abc"},
-      {"--field", "abcde"},
-      {"--field", "ab_1"},
-      {"--field", "abc\xc3\xa4"},
-      {"--project", ""},
-      {"--project", ".."},
-      {"--project", "two words"},
-      {"--project", "a/b"},
-      {"--label2", "12345678901"},
-      {"--label1", Repeated("\xc3\xa4", 11)},
-      {"--label1", "EM\xff"},
-      {"--label1", "EM\nv"},
-      {"--description", Repeated("d", 61)},
-      {"--description", "one\rtwo"},
-      {"--root", "one\ntwo"},
-      {"--project", "one\ntwo"}};
+      {"--design", "6", "--design", "6", "--design", "6", "--design", "6", "--design", "6", "--design", "6"}};
+  for (const WrongValues& row : table) {
+    for (const std::string& value : row.Values) {
+      wrong.push_back({row.Option, value});
+    }
+  }
   return wrong;
 }
 

@@ -111,39 +111,26 @@ inline RawSurvey SpoiltTransect()
 /// A run that leaves no step out, on the survey above.
 inline std::vector<std::string> EveryStep()
 {
-  return {"--type",
-          "transect",
-          "--site-id",
-          "--s2",
-          "--log",
-          "--convert-units",
-          "dS/m",
-          "--translate",
-          "rotate=30",
-          "--translate",
-          "swap",
-          "--delete-outliers",
-          "2",
-          "--edge-buffer",
-          "rows",
-          "--transition",
-          "--transition-file",
-          "--manual",
-          "130,77,400",
-          "--ads",
-          "limited",
-          "--design",
-          "12",
-          "--design",
-          "20,d=0.85",
-          "--design",
-          "12,stratum=2,no-support",
-          "--design",
-          "5,d=1.15",
-          "--design",
-          "6,stratum=3,d=1.05,ignore-ta",
-          "--description",
-          "Süd, \"oben\""};
+  std::vector<std::string> options = {"--site-id", "--s2", "--log", "--transition", "--transition-file"};
+  const std::vector<std::pair<const char*, const char*>> values = {
+      {"--type", "transect"},
+      {"--convert-units", "dS/m"},
+      {"--translate", "rotate=30"},
+      {"--translate", "swap"},
+      {"--delete-outliers", "2"},
+      {"--edge-buffer", "rows"},
+      {"--manual", "130,77,400"},
+      {"--ads", "limited"},
+      {"--design", "12"},
+      {"--design", "20,d=0.85"},
+      {"--design", "12,stratum=2,no-support"},
+      {"--design", "5,d=1.15"},
+      {"--design", "6,stratum=3,d=1.05,ignore-ta"},
+      {"--description", "Süd, \"oben\""}};
+  for (const auto& [option, value] : values) {
+    options.insert(options.end(), {option, value});
+  }
+  return options;
 }
 
 }  // namespace veln

@@ -24,7 +24,7 @@ void ExpectTransectOptions(const SigValForm& form, bool enabled)
   EXPECT_EQ(form.Label2Enabled, enabled);
 }
 
-TEST(SigValForm, OpensOnDeletionWhenThereAreOutliers)
+TEST(SigValForm, OpensOnDeletionWithOutliersAndOnAcceptanceWithout)
 {
   const SurveyState state = SurveyWith(TransectSurvey(5, 12), "1");
   SigValForm form = LoadSigValForm(state);
@@ -34,18 +34,15 @@ TEST(SigValForm, OpensOnDeletionWhenThereAreOutliers)
   EXPECT_STREQ(form.Option2Caption(), "mask all outliers and accept current signal data configuration");
   EXPECT_STREQ(form.Option2ToolTip(),
                " indicates that all outlier sites should be masked (but not deleted) ");
-  ChooseAcceptance(form, state);
-  EXPECT_TRUE(form.Option1Enabled && !form.Option1 && form.Option2);
   EXPECT_STREQ(form.Command2Caption(), "Invoke Validation");
   EXPECT_STREQ(form.Command2ToolTip(),
                " perform the validation actions selected above on the decorrelated signal data ");
-}
+  ChooseAcceptance(form, state);
+  EXPECT_TRUE(form.Option1Enabled && !form.Option1 && form.Option2);
 
-TEST(SigValForm, OpensOnAcceptanceWhenThereAreNone)
-{
-  SurveyState state = SurveyWith(GridSurvey(10, 5), "0");
-  state.SiteStatus[3] = site_status::Masked;  // no outlier
-  const SigValForm form = LoadSigValForm(state);
+  SurveyState grid = SurveyWith(GridSurvey(10, 5), "0");
+  grid.SiteStatus[3] = site_status::Masked;  // no outlier
+  form = LoadSigValForm(grid);
   EXPECT_TRUE(!form.Option1Enabled && !form.Option1 && form.Option2);
   ExpectTransectOptions(form, false);
   EXPECT_STREQ(form.Option2Caption(),

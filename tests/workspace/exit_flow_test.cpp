@@ -2,48 +2,43 @@
 
 #include "support/scripted_dialogs.h"
 
-#include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
+#include <deque>
+#include <string>
+#include <vector>
 
 namespace veln {
 
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-TEST(ExitFlow, BeforeAnAcceptedConfigurationOneQuestionIsAsked)
+TEST(ExitFlow, ExportsADesignAndAsksWithoutOne)
 {
-  SurveyState state;
-  state.DesignCount = 1;  // does not count while output files can't be viewed
-  for (const bool yes : {true, false}) {
-    ScriptedDialogs dialogs({yes});
-    EXPECT_EQ(RequestExit(state, dialogs), yes ? ExitRoute::Leave : ExitRoute::Stay);
-    EXPECT_THAT(dialogs.Said, ElementsAre("ask: Do You Really Wish to Exit?"));
-  }
-}
-
-TEST(ExitFlow, WithADesignTheSurveyIsExportedWithoutAQuestion)
-{
-  for (const bool manual : {true, false}) {
+  struct Case {
+    const char* What;
+    bool Accepted;
+    int Designs;
+    bool Manual;
+    std::vector<std::string> Said;
+  };
+  const std::vector<std::string> question = {"ask: Do You Really Wish to Exit?"};
+  const std::vector<std::string> warning = {
+      "beep", "ask: Warning!  No sample designs have been created!  Do you still wish to exit?"};
+  for (const Case& c : {Case{"not accepted: the design does not count", false, 1, false, question},
+                        Case{"accepted, without a design", true, 0, false, warning},
+                        Case{"accepted, with a design", true, 1, false, {}},
+                        Case{"accepted, with a manual design", true, 0, true, {}}}) {
     SurveyState state;
-    state.Menu.Apply(WorkflowEvent::ConfigurationAccepted);
-    state.ManualDesignDone = manual;
-    state.DesignCount = manual ? 0 : 1;
-    ScriptedDialogs dialogs;
-    EXPECT_EQ(RequestExit(state, dialogs), ExitRoute::Export);
-    EXPECT_THAT(dialogs.Said, IsEmpty());
-  }
-}
-
-TEST(ExitFlow, WithoutADesignABeepAndAWarningComeFirst)
-{
-  SurveyState state;
-  state.Menu.Apply(WorkflowEvent::ConfigurationAccepted);
-  for (const bool yes : {true, false}) {
-    ScriptedDialogs dialogs({yes});
-    EXPECT_EQ(RequestExit(state, dialogs), yes ? ExitRoute::Leave : ExitRoute::Stay);
-    EXPECT_THAT(dialogs.Said, ElementsAre("beep",
-                                          "ask: Warning!  No sample designs have been created!  Do you "
-                                          "still wish to exit?"));
+    state.DesignCount = c.Designs;
+    state.ManualDesignDone = c.Manual;
+    if (c.Accepted) {
+      state.Menu.Apply(WorkflowEvent::ConfigurationAccepted);
+    }
+    for (const bool yes : {true, false}) {
+      const bool asked = !c.Said.empty();
+      ScriptedDialogs dialogs(asked ? std::deque{yes} : std::deque<bool>{});
+      const ExitRoute answered = yes ? ExitRoute::Leave : ExitRoute::Stay;
+      EXPECT_EQ(RequestExit(state, dialogs), asked ? answered : ExitRoute::Export) << c.What;
+      EXPECT_EQ(dialogs.Said, c.Said) << c.What;
+    }
   }
 }
 

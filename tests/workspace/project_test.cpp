@@ -66,32 +66,23 @@ TEST(Project, DataThatCannotBeListedIsToldInTheProgramsWords)
   EXPECT_EQ(RefusalOf([&] { ListProjects(folder.Path()); }), warning);
 }
 
-TEST(Project, OnlyTheInformationFileMakesAFieldIdBeInUse)
-{
-  const TemporaryDirectory folder;
-  WriteText(folder / "data/Farm/AB12tstd.std", "");
-  WriteText(folder / "data/Other/AB12info.txt", "");
-  ScriptedDialogs dialogs;
-  EXPECT_TRUE(CheckAlphaCode(folder.Path(), "Farm", "AB12", dialogs));
-  EXPECT_THAT(dialogs.Said, IsEmpty());
-}
-
-TEST(Project, AFieldIdInUseIsAskedFor)
+TEST(Project, AFieldIdWithAnInformationFileIsAskedFor)
 {
   const TemporaryDirectory folder;
   WriteText(folder / "data/Farm/AB12info.txt", "");
+  WriteText(folder / "data/Hill/AB12tstd.std", "");
   const std::string question =
       "ask: Warning!  The 4-character Field ID code you have specified is already in use\n"
       "in the current data Project.  If you keep this code, you will automatically\n"
       "overwrite one or more existing VELN-QTRD output data and/or text files.\n\n"
       "Are you sure that you want to still use this code and overwrite these files?";
-  ScriptedDialogs keep({true});
-  EXPECT_TRUE(CheckAlphaCode(folder.Path(), "Farm", "AB12", keep));
-  EXPECT_THAT(keep.Said, ElementsAre("beep", question));
-  ScriptedDialogs change({false});
-  EXPECT_FALSE(CheckAlphaCode(folder.Path(), "Farm", "AB12", change));
-  EXPECT_THAT(change.Said,
-              ElementsAre("beep", question, "beep", "inform: Please enter a new Field ID code now."));
+  ScriptedDialogs dialogs({true, false});
+  EXPECT_TRUE(CheckAlphaCode(folder.Path(), "Hill", "AB12", dialogs)) << "no other file counts";
+  EXPECT_THAT(dialogs.Said, IsEmpty());
+  EXPECT_TRUE(CheckAlphaCode(folder.Path(), "Farm", "AB12", dialogs));
+  EXPECT_FALSE(CheckAlphaCode(folder.Path(), "Farm", "AB12", dialogs));
+  EXPECT_THAT(dialogs.Said, ElementsAre("beep", question, "beep", question, "beep",
+                                        "inform: Please enter a new Field ID code now."));
 }
 
 TEST(Project, IsSetAsOftenAsWantedUntilASurveyIsImported)
