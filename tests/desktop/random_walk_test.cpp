@@ -315,8 +315,9 @@ class RandomWalk : public testing::TestWithParam<std::uint64_t> {
 
 TEST_P(RandomWalk, WindowsAgreeWithTheRecord)
 {
-  constexpr int Steps = 800;
-  for (int step = 0; step < Steps && !HasFailure(); ++step) {
+  constexpr int FewestSteps = 600;
+  constexpr int MostSteps = 6000;  // timers of the windows make some walks longer than others
+  for (int step = 0; step < MostSteps && (step < FewestSteps || Designs == 0) && !HasFailure(); ++step) {
     SCOPED_TRACE("step " + std::to_string(step));
     Step();
     ExpectAgreement();
