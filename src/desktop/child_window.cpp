@@ -44,7 +44,6 @@ ChildWindow::ChildWindow(Program& program, QWidget* parent, const Traits& traits
 {
   setObjectName(traits.Name);
   setWindowTitle(traits.Title);
-  setMinimumWidth(TitleRoom(*this));
   setWindowFlags(Qt::Dialog | Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinMaxButtonsHint |
                  Qt::WindowCloseButtonHint);
   if (!help_.empty()) {
@@ -110,7 +109,8 @@ void ChildWindow::Place()
   }
   const QRect screen = (origin_ != nullptr ? origin_->screen() : this->screen())->availableGeometry();
   ensurePolished();
-  resize(sizeHint().expandedTo(minimumSizeHint()).boundedTo(screen.size()));
+  const QSize room = sizeHint().expandedTo(minimumSizeHint()).expandedTo({TitleRoom(*this), 0});
+  resize(room.boundedTo(screen.size()));
   if (origin_ != nullptr) {
     const QPoint corner = origin_->pos() + offset_;
     const QPoint last = screen.bottomRight() - QPoint(frameGeometry().width(), frameGeometry().height());
