@@ -19,7 +19,7 @@ using namespace veln;
 
 const SurveyState& LargestSurvey()
 {
-  static const SurveyState survey = [] {
+  static const SurveyState Survey = [] {
     SurveyState state;
     state.ProgramDir = std::filesystem::temp_directory_path();
     AcceptProject(state, "bench", "BNCH", "");
@@ -27,7 +27,7 @@ const SurveyState& LargestSurvey()
     DecorrelateSignals(state, {});
     return state;
   }();
-  return survey;
+  return Survey;
 }
 
 /// The graphics window of the survey, with one plot composed.
