@@ -31,9 +31,9 @@ void PaintDrawing(QPainter& painter, const Drawing& drawing, const DrawingFrame&
   painter.setRenderHint(QPainter::Antialiasing);
   MarkPainter paint(painter, drawing, frame);
   const bool pixels = painter.paintEngine()->type() == QPaintEngine::Raster;
-  const auto paintMarks = [&](std::size_t begin, std::size_t end) {
-    begin = std::clamp(begin, first, std::max(first, end));
-    const auto marks = std::span(drawing.Marks).subspan(begin, std::max(end, begin) - begin);
+  const auto paintMarks = [&](std::size_t from, std::size_t to) {
+    from = std::clamp(from, first, std::max(first, to));
+    const auto marks = std::span(drawing.Marks).subspan(from, std::max(to, from) - from);
     if (!pixels) {
       PaintLayered(painter, drawing, marks, paint);
       return;

@@ -62,7 +62,7 @@ std::optional<PictureFormat> FormatOfName(const std::filesystem::path& path)
   std::string extension = path.extension().string();
   std::ranges::transform(extension, extension.begin(),
                          [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
-  const auto found = std::ranges::find(Extensions, extension);
+  const auto* const found = std::ranges::find(Extensions, extension);
   return found == Extensions.end() ? std::nullopt
                                    : std::optional(static_cast<PictureFormat>(found - Extensions.begin()));
 }
