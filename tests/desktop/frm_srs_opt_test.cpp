@@ -57,6 +57,11 @@ TEST_F(FrmSrsOpt, BestAndAcceptableScoresAreMarked)
     }
   }
   EXPECT_EQ(cells, "1.500 1.320 1.320b 1.200b*  12.346 ");
+  const QBrush tone = Grid().item(1, 1)->background();
+  QPalette dark = Grid().palette();
+  dark.setColor(QPalette::Base, Qt::black);
+  Window("frmSRSOpt")->setPalette(dark);
+  EXPECT_NE(Grid().item(1, 1)->background(), tone);
   ShowScores({});
   EXPECT_EQ(Text("frmSRSOpt", "lblBest"), "No combination of strata and D_Factor has a usable score.");
 }

@@ -144,6 +144,7 @@ void frmSRSOpt::FillGrid()
     grid_->setCurrentCell(summary_.Best->Stratum - 1, summary_.Best->FactorIndex - 1,
                           QItemSelectionModel::NoUpdate);
   }
+  TintBest();
   grid_->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
 }
 
@@ -159,12 +160,26 @@ QTableWidgetItem* frmSRSOpt::MakeCell(const Combination& combination) const
   cell->setFont(font);
   QString meaning = acceptable ? "acceptable design" : "";
   if (summary_.Best == combination) {
-    cell->setBackground(BestTone(palette()));
     meaning = "best design";
   }
   cell->setToolTip(meaning);
   cell->setData(Qt::AccessibleDescriptionRole, meaning);
   return cell;
+}
+
+void frmSRSOpt::TintBest()
+{
+  if (summary_.Best) {
+    grid_->item(summary_.Best->Stratum - 1, summary_.Best->FactorIndex - 1)->setBackground(BestTone(palette()));
+  }
+}
+
+void frmSRSOpt::changeEvent(QEvent* event)
+{
+  ChildWindow::changeEvent(event);
+  if (event->type() == QEvent::PaletteChange && use_ != nullptr) {  // all is there
+    TintBest();
+  }
 }
 
 void frmSRSOpt::MakeMenus()

@@ -20,9 +20,13 @@ class frmSRSOpt : public ChildWindow {
 
   frmSRSOpt(Program& program, QWidget* parent, SelectionScores scores);
 
+ protected:
+  void changeEvent(QEvent* event) override;
+
  private:
   void FillGrid();
   [[nodiscard]] QTableWidgetItem* MakeCell(const Combination& combination) const;
+  void TintBest();
   QLayout* MakeButtons();
   void MakeMenus();
   [[nodiscard]] TextTable Table() const;
@@ -32,8 +36,8 @@ class frmSRSOpt : public ChildWindow {
 
   SelectionScores scores_;
   SelectionSummary summary_;
-  QTableWidget* grid_;
-  QPushButton* use_;
+  QTableWidget* grid_ = nullptr;
+  QPushButton* use_ = nullptr;
 };
 
 }  // namespace veln
