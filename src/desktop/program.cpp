@@ -51,7 +51,7 @@ bool Program::Try(const std::function<void()>& action)
 void Program::EndProgram()
 {
   for (const auto& [name, window] : std::map(windows_)) {
-    if (window) {
+    if (window != nullptr) {
       window->Unload();
     }
   }

@@ -61,9 +61,9 @@ QColor BestTone(const QPalette& palette)
 
 }  // namespace
 
-frmSRSOpt::frmSRSOpt(Program& program, QWidget* parent, SelectionScores scores)
+frmSRSOpt::frmSRSOpt(Program& program, QWidget* parent, const SelectionScores& scores)
     : ChildWindow(program, parent, {Name, "Sample Design Optimization Results", {1500, 1000}, "", {}}),
-      scores_(std::move(scores)),
+      scores_(scores),
       summary_(SummariseScores(scores_))
 {
   auto* layout = new QVBoxLayout(this);
@@ -170,7 +170,8 @@ QTableWidgetItem* frmSRSOpt::MakeCell(const Combination& combination) const
 void frmSRSOpt::TintBest()
 {
   if (summary_.Best) {
-    grid_->item(summary_.Best->Stratum - 1, summary_.Best->FactorIndex - 1)->setBackground(BestTone(palette()));
+    grid_->item(summary_.Best->Stratum - 1, summary_.Best->FactorIndex - 1)
+        ->setBackground(BestTone(palette()));
   }
 }
 

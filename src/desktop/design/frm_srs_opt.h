@@ -18,7 +18,7 @@ class frmSRSOpt : public ChildWindow {
  public:
   static constexpr const char* Name = "frmSRSOpt";
 
-  frmSRSOpt(Program& program, QWidget* parent, SelectionScores scores);
+  frmSRSOpt(Program& program, QWidget* parent, const SelectionScores& scores);
 
  protected:
   void changeEvent(QEvent* event) override;

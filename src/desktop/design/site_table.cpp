@@ -36,6 +36,7 @@ QTableWidget* MakeSiteTable(QWidget* parent, const SurveyState& state, const Tex
 {
   TextTable widest{sites.Headings, {}};
   std::vector<std::string> cells;
+  cells.reserve(sites.Headings.size());
   for (const std::string& heading : sites.Headings) {
     cells.push_back(WidestText(state, heading));
   }
@@ -53,6 +54,7 @@ QTableWidget* MakeSiteTable(QWidget* parent, const SurveyState& state, const Tex
 void FillSiteTable(QTableWidget& widget, const TextTable& sites)
 {
   std::vector<int> widths;  // of columns, which never narrow: the window keeps its shape
+  widths.reserve(static_cast<std::size_t>(widget.columnCount()));
   for (int column = 0; column < widget.columnCount(); ++column) {
     widths.push_back(widget.columnWidth(column));
   }

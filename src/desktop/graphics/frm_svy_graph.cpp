@@ -1,5 +1,6 @@
 #include "desktop/graphics/frm_svy_graph.h"
 
+#include "desktop/busy_pointer.h"
 #include "desktop/controls.h"
 #include "desktop/graphics/frm_igc.h"
 #include "desktop/graphics/frm_legend.h"
@@ -13,7 +14,6 @@
 
 #include <QAction>
 #include <QGroupBox>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QPushButton>
@@ -45,9 +45,10 @@ void frmSvyGraph::Act(const std::function<void(SurveyGraph&)>& action, Effect ef
   if (graph_.Shown.Sites.empty()) {
     deletedSites_ = State().DeletedSiteCount;
   }
-  QGuiApplication::setOverrideCursor(Qt::BusyCursor);
-  const bool done = Shared().Try([&] { action(graph_); });
-  QGuiApplication::restoreOverrideCursor();
+  const bool done = Shared().Try([&] {
+    const BusyPointer busy;
+    action(graph_);
+  });
   const bool replaced = done && effect == Effect::Replaces;
   if (replaced) {
     deletedSites_ = State().DeletedSiteCount;

@@ -1,12 +1,12 @@
 #include "desktop/signal/frm_sig_val.h"
 
+#include "desktop/busy_pointer.h"
 #include "desktop/controls.h"
 #include "desktop/signal/frm_sig_decorr.h"
 #include "desktop/text_roles.h"
 
 #include <QCheckBox>
 #include <QGroupBox>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -182,10 +182,10 @@ void frmSigVal::Validate()
     }
     return;
   }
-  QGuiApplication::setOverrideCursor(Qt::BusyCursor);
-  const bool accepted = program.Try(
-      [this, &program] { AcceptConfiguration(State(), form_.Options(), program.Ask(), program.Now()); });
-  QGuiApplication::restoreOverrideCursor();
+  const bool accepted = program.Try([this, &program] {
+    const BusyPointer busy;
+    AcceptConfiguration(State(), form_.Options(), program.Ask(), program.Now());
+  });
   if (accepted) {
     Unload();
     program.Changed();

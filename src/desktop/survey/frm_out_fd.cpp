@@ -1,10 +1,10 @@
 #include "desktop/survey/frm_out_fd.h"
 
+#include "desktop/busy_pointer.h"
 #include "desktop/controls.h"
 #include "toolkit/number_text.h"
 
 #include <QGroupBox>
-#include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
@@ -24,15 +24,6 @@ QLabel* MakeProgressLine(QWidget* parent, const char* name, const QString& text)
   KeepRoom(*line);
   return line;
 }
-
-/// The busy pointer, for as long as it lives.
-class BusyPointer {
- public:
-  BusyPointer() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-  BusyPointer(const BusyPointer&) = delete;
-  BusyPointer& operator=(const BusyPointer&) = delete;
-  ~BusyPointer() { QGuiApplication::restoreOverrideCursor(); }
-};
 
 }  // namespace
 

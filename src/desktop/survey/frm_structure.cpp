@@ -1,5 +1,6 @@
 #include "desktop/survey/frm_structure.h"
 
+#include "desktop/busy_pointer.h"
 #include "desktop/controls.h"
 #include "desktop/survey/record_preview_table.h"
 #include "desktop/text_roles.h"
@@ -9,7 +10,6 @@
 #include <QDragEnterEvent>
 #include <QGridLayout>
 #include <QGroupBox>
-#include <QGuiApplication>
 #include <QLabel>
 #include <QLineEdit>
 #include <QMimeData>
@@ -23,15 +23,6 @@
 namespace veln {
 
 namespace {
-
-/// The waiting pointer for as long as it lives, also past a refusal.
-class BusyPointer {
- public:
-  BusyPointer() { QGuiApplication::setOverrideCursor(Qt::WaitCursor); }
-  BusyPointer(const BusyPointer&) = delete;
-  BusyPointer& operator=(const BusyPointer&) = delete;
-  ~BusyPointer() { QGuiApplication::restoreOverrideCursor(); }
-};
 
 QLineEdit* MakeEdit(QWidget* parent, const char* name, const QString& toolTip)
 {
