@@ -21,11 +21,12 @@ struct frmSvyGraph::MenuLine {
   const char* Shortcut = "";
   bool Checkable = false;
 
+  [[nodiscard]] bool IsLine() const { return *Name == '\0'; }
   [[nodiscard]] bool IsSubmenu() const
   {
     using enum GraphEntry;
     const bool heading = Gate == mnuScatter || Gate == mnuLine || Gate == mnuHist || Gate == mnuCSG;
-    return heading || (!Gate && Action == nullptr);
+    return heading || (!IsLine() && !Gate && Action == nullptr);
   }
 };
 
@@ -89,18 +90,22 @@ void frmSvyGraph::MakeMenus()
   layout()->setMenuBar(bar);
   std::map<std::string, QMenu*> menus;
   for (const MenuLine& line : Menu()) {
-    QMenu* above = line.Menu == nullptr ? nullptr : menus.at(line.Menu);
-    if (*line.Name == '\0') {
-      above->addSeparator();
-      continue;
+    QWidget* above = bar;
+    if (line.Menu != nullptr) {
+      above = menus.at(line.Menu);
     }
     if (line.IsSubmenu()) {
-      QMenu* menu = above == nullptr ? bar->addMenu(line.Caption) : above->addMenu(line.Caption);
+      auto* menu = new QMenu(line.Caption, above);
       menu->menuAction()->setObjectName(line.Name);
+      above->addAction(menu->menuAction());
       menus[line.Name] = menu;
       continue;
     }
     QAction* action = above->addAction(line.Caption);
+    if (line.IsLine()) {
+      action->setSeparator(true);
+      continue;
+    }
     action->setObjectName(line.Name);
     action->setShortcut(QKeySequence(line.Shortcut));
     action->setCheckable(line.Checkable);
