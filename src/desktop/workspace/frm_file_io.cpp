@@ -71,7 +71,7 @@ QString NearestDirectory(const QString& path)
 QStringList SubDirectories(const QString& path)
 {
   std::error_code failure;
-  std::filesystem::directory_iterator entries(FromQt(path), failure);
+  const std::filesystem::directory_iterator entries(FromQt(path), failure);
   if (failure) {
     throw Refusal(FromQt(path) + "\ncould not be read: " + failure.message());
   }
