@@ -189,6 +189,9 @@ TEST_F(AllWindows, EveryControlHasAnAccessibleName)
       if (!caption.isEmpty() && !button->objectName().isEmpty()) {
         EXPECT_EQ(button->accessibleName(), caption);
       }
+      if (dynamic_cast<QRadioButton*>(button) != nullptr) {
+        EXPECT_EQ(QAccessible::queryAccessibleInterface(button)->role(), QAccessible::RadioButton);
+      }
     }
   });
 }

@@ -45,7 +45,6 @@ PictureDialog::PictureDialog(Program& program, QWidget* owner, Picture picture, 
   options->setSpacing(SmallGap);
   for (std::size_t i = 0; i < Formats.size(); ++i) {
     formats_.at(i) = MakeOption(frame, Formats.at(i).Name, Formats.at(i).Caption);
-    formats_.at(i)->setAutoExclusive(true);
     options->addWidget(formats_.at(i));
     connect(formats_.at(i), &QRadioButton::toggled, this, [this] { Mirror(); });
   }
