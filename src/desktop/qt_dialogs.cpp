@@ -5,6 +5,7 @@
 
 #include <QApplication>
 #include <QFileDialog>
+#include <QGuiApplication>
 #include <QMessageBox>
 
 namespace veln {
@@ -17,7 +18,15 @@ QMessageBox::StandardButton ShowBox(QMessageBox::Icon icon, const std::string& t
   QMessageBox box(icon, ProgramTitle, ToQt(text), buttons, QApplication::activeWindow());
   box.setObjectName("MsgBox");
   box.setTextFormat(Qt::PlainText);
-  return static_cast<QMessageBox::StandardButton>(box.exec());
+  const bool busy = QGuiApplication::overrideCursor() != nullptr;
+  if (busy) {
+    QGuiApplication::setOverrideCursor(Qt::ArrowCursor);  // while the user is asked, nothing works on
+  }
+  const int pressed = box.exec();
+  if (busy) {
+    QGuiApplication::restoreOverrideCursor();
+  }
+  return static_cast<QMessageBox::StandardButton>(pressed);
 }
 
 }  // namespace

@@ -233,14 +233,19 @@ class ElementWriter {
   {
     constexpr double Ascent = 0.92;  // of the font size, from a text's top to its baseline
     const double size = text.FontSize * TwipsPerPoint;
-    const UnitPoint at = surface_.At(text.At);
+    UnitPoint at = surface_.At(text.At);
+    TextAnchor anchor = text.Anchor;
+    if (anchor == TextAnchor::Start && at.X < surface_.Width && at.X + WidthOf(text) > surface_.Width) {
+      anchor = TextAnchor::End;  // whole at the right edge
+      at.X = surface_.Width;
+    }
     std::string element = "<text x=\"" + Number(at.X) + "\" y=\"" + Number(at.Y + std::round(Ascent * size)) +
                           "\" font-size=\"" + Number(size) + "\" fill=\"" + HexColour(text.Ink) + "\"";
     if (text.Bold) {
       element += " font-weight=\"bold\"";
     }
-    if (text.Anchor != TextAnchor::Start) {
-      element += text.Anchor == TextAnchor::Middle ? " text-anchor=\"middle\"" : " text-anchor=\"end\"";
+    if (anchor != TextAnchor::Start) {
+      element += anchor == TextAnchor::Middle ? " text-anchor=\"middle\"" : " text-anchor=\"end\"";
     }
     if (text.Text.starts_with(' ') || text.Text.ends_with(' ') || text.Text.find("  ") != std::string::npos) {
       element += " xml:space=\"preserve\"";
@@ -261,6 +266,18 @@ class ElementWriter {
   }
 
  private:
+  /// How wide a text may be in twips: fonts are the viewer's, this is that of a wide one.
+  static double WidthOf(const TextMark& text)
+  {
+    constexpr double Letter = 0.7;  // of the font size
+    constexpr double Blank = 0.35;
+    double width = 0;
+    for (const char c : text.Text) {
+      width += c == ' ' ? Blank : Letter;
+    }
+    return width * text.FontSize * TwipsPerPoint;
+  }
+
   /// Whether one of the next two marks is a dot that covers this one all over, as a highlight does.
   static bool IsHidden(const DotMark& dot, std::span<const DrawMark> next)
   {

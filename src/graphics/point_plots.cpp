@@ -63,13 +63,15 @@ struct SignalSource {
   std::span<const double> Values;
   Limits Range;
   const SignalRow& Row;
+  const std::string& Label;
 };
 
 SignalSource SignalOf(const SurveyGraph& graph, const SurveyState& state, int number)
 {
+  const std::size_t index = static_cast<std::size_t>(number) - 1;
   return {SeriesOf(state, number == 1 ? state.Signal1 : state.Signal2),
-          number == 1 ? graph.S1Range : graph.S2Range,
-          state.Signals.Rows.at(static_cast<std::size_t>(number) - 1)};
+          number == 1 ? graph.S1Range : graph.S2Range, state.Signals.Rows.at(index),
+          state.SignalLabel.at(index)};
 }
 
 void ShowSignalByCoordinate(SurveyGraph& graph, const SurveyState& state, int signal, bool alongX)
@@ -83,7 +85,7 @@ void ShowSignalByCoordinate(SurveyGraph& graph, const SurveyState& state, int si
       {"Corr(s" + GeneralForm(signal) + ", " + axis + ")", CorrelationText(position, source.Values), ""});
   LabelAxes(graph.Shown, AxisOf(range, AxisFormat::Coordinate, graph.Options.DecimalPlaces),
             AxisOf(source.Range, AxisFormat::Signal));
-  graph.Shown.Title = source.Row.LblNm + " versus " + (alongX ? "X" : "Y");
+  graph.Shown.Title = source.Label + " versus " + (alongX ? "X" : "Y");
   PlotPoints(graph, state, {position, range, source.Values, source.Range}, false);
 }
 
@@ -94,7 +96,7 @@ void ShowSignalBySignal(SurveyGraph& graph, const SurveyState& state)
   SetStats(graph.Shown, {s1.Row.LblNm, s1.Row.LblMu, s1.Row.LblStd},
            {s2.Row.LblNm, s2.Row.LblMu, s2.Row.LblStd}, {"Corr(s1, s2)", state.Signals.LblCorr, ""});
   LabelAxes(graph.Shown, AxisOf(s2.Range, AxisFormat::Signal), AxisOf(s1.Range, AxisFormat::Signal));
-  graph.Shown.Title = state.SignalLabel[0] + " versus " + state.SignalLabel[1];
+  graph.Shown.Title = s1.Label + " versus " + s2.Label;
   PlotPoints(graph, state, {s2.Values, s2.Range, s1.Values, s1.Range}, false);
 }
 

@@ -333,7 +333,8 @@ TEST_F(FrmSvyGraph, CompanionsCloseWithIt)
   Click("frmSvyGraph", "Command8");
   ASSERT_TRUE(Choose("mnuIGC") && Choose("mnuOSS") && Choose("mnuPCT"));
   for (const char* name : {"frmLegend", "frmIGC", "frmPCT", "overlayChooser"}) {
-    EXPECT_NE(Window(name), nullptr) << name;
+    ASSERT_NE(Window(name), nullptr) << name;
+    EXPECT_EQ(Window(name)->parent(), Window("frmSvyGraph")) << name;  // it stays in front of it
   }
   QTest::keyClick(Window("frmSvyGraph"), Qt::Key_Escape);
   Settle();

@@ -48,6 +48,20 @@ TEST(MarkLayers, KeepThePictureOfTheDrawingOrder)
   EXPECT_LT(inks.size(), 200) << "dots share their layers";
 }
 
+TEST(SvgText, HoldsANumberAtTheRightEdgeInsideThePicture)
+{
+  Drawing drawing = Surface();  // 100 pixels are 1500 twips
+  for (const double x : {50.0, 80.0}) {
+    drawing.Marks.emplace_back(TextMark{{x, 50}, " 1458 ", QBColor(0), 8, true});
+  }
+  const std::string svg = SvgText(drawing);
+  EXPECT_THAT(svg, HasSubstr("<text x=\"750\""));
+  EXPECT_THAT(svg, HasSubstr("<text x=\"1500\""));
+  const std::size_t anchor = svg.find("text-anchor=\"end\"");
+  EXPECT_GT(anchor, svg.find("<text x=\"1500\""));
+  EXPECT_NE(anchor, std::string::npos);
+}
+
 TEST(SvgText, DrawsALineBetweenWhatLiesUnderAndOverIt)
 {
   Drawing drawing = Surface();

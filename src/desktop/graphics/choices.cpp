@@ -23,7 +23,6 @@ void InitChoice(QAbstractButton& button, const char* name, const QString& toolTi
 QRadioButton* MakeOption(QWidget* parent, const char* name, const QString& caption, const QString& toolTip)
 {
   auto* option = new QRadioButton(caption, parent);
-  option->setAutoExclusive(false);
   InitChoice(*option, name, toolTip);
   return option;
 }
@@ -37,8 +36,12 @@ QCheckBox* MakeCheck(QWidget* parent, const char* name, const QString& caption, 
 
 void ShowChoice(QAbstractButton& button, bool on)
 {
-  const QSignalBlocker quiet(button);
-  button.setChecked(on);
+  if (auto* option = dynamic_cast<QRadioButton*>(&button)) {
+    ShowOption(*option, on);
+  } else {
+    const QSignalBlocker quiet(button);
+    button.setChecked(on);
+  }
   SetRole(button, on ? TextRole::Chosen : TextRole::Normal);
 }
 

@@ -39,7 +39,7 @@ QLineEdit* MakeSwatch(QWidget* parent, const QString& name, Colour colour)
 }  // namespace
 
 frmIGC::frmIGC(Program& program, QWidget* parent)
-    : ChildWindow(program, parent,
+    : ChildWindow(program, frmSvyGraph::OwnerOfCompanions(program, parent),
                   {Name, "Graphics Initialization", {1000, 750}, "hdoc03", {}, program.Find<frmSvyGraph>()})
 {
   if (const auto* window = program.Find<frmSvyGraph>()) {

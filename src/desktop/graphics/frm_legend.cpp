@@ -71,7 +71,8 @@ const MapLegend& EmptyLegend()
 }  // namespace
 
 frmLegend::frmLegend(Program& program, QWidget* parent)
-    : ChildWindow(program, parent, {Name, "", {1000, 500}, "", {}, program.Find<frmSvyGraph>()})
+    : ChildWindow(program, frmSvyGraph::OwnerOfCompanions(program, parent),
+                  {Name, "", {1000, 500}, "", {}, program.Find<frmSvyGraph>()})
 {
   const auto* window = program.Find<frmSvyGraph>();
   const MapLegend legend =

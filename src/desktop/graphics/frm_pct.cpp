@@ -26,7 +26,7 @@ constexpr std::array<TranslationKind, 4> Kinds = {TranslationKind::Swap, Transla
 
 frmPCT::frmPCT(Program& program, QWidget* parent)
     : ChildWindow(
-          program, parent,
+          program, frmSvyGraph::OwnerOfCompanions(program, parent),
           {Name, "Coordinate Translation Options", {1000, 750}, "hdoc07", {}, program.Find<frmSvyGraph>()})
 {
   auto* layout = new QVBoxLayout(this);

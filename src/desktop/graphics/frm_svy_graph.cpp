@@ -39,6 +39,12 @@ bool SameAxes(const std::pair<PlotAxis, PlotAxis>& before, const Plot& now)
 
 }  // namespace
 
+QWidget* frmSvyGraph::OwnerOfCompanions(const Program& program, QWidget* main)
+{
+  auto* window = program.Find<frmSvyGraph>();
+  return window != nullptr ? window : main;
+}
+
 void frmSvyGraph::Act(const std::function<void(SurveyGraph&)>& action, Effect effect)
 {
   const std::pair axes(graph_.Shown.AxisX, graph_.Shown.AxisY);

@@ -33,6 +33,8 @@ class frmSvyGraph : public ChildWindow {
     Replaces  ///< the whole of another plot shows
   };
 
+  /// What the windows that close with it belong to, so that they stay in front of it.
+  static QWidget* OwnerOfCompanions(const Program& program, QWidget* main);
   [[nodiscard]] const SurveyGraph& Graph() const { return graph_; }
   /// Does something with the state of the window, as a click in one of its companions does, and shows what
   /// came of it.

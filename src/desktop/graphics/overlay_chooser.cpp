@@ -14,7 +14,7 @@
 namespace veln {
 
 OverlayChooser::OverlayChooser(Program& program, QWidget* parent)
-    : ChildWindow(program, parent,
+    : ChildWindow(program, frmSvyGraph::OwnerOfCompanions(program, parent),
                   {Name, "Overlay Sample Sites", {2000, 1500}, "", {}, program.Find<frmSvyGraph>()})
 {
   auto* layout = new QVBoxLayout(this);

@@ -1,15 +1,17 @@
 #include "desktop/graphics/picture_dialog.h"
 
 #include "desktop/controls.h"
+#include "desktop/graphics/choices.h"
 
-#include <QComboBox>
-#include <QFormLayout>
+#include <QGroupBox>
+#include <QHBoxLayout>
 #include <QLabel>
 #include <QPushButton>
+#include <QRadioButton>
 #include <QSpinBox>
 #include <QVBoxLayout>
 
-#include <array>
+#include <algorithm>
 #include <utility>
 
 namespace veln {
@@ -18,14 +20,15 @@ namespace {
 
 struct OfferedFormat {
   PictureFormat Format;
+  const char* Name;
   const char* Caption;
   const char* Filter;
 };
 
 constexpr std::array<OfferedFormat, 3> Formats = {
-    {{PictureFormat::Png, "PNG (pixels)", "PNG pictures (*.png)"},
-     {PictureFormat::Svg, "SVG (shapes and text)", "SVG pictures (*.svg)"},
-     {PictureFormat::Pdf, "PDF (shapes and text)", "PDF files (*.pdf)"}}};
+    {{PictureFormat::Png, "png", "&PNG (pixels)", "PNG pictures (*.png)"},
+     {PictureFormat::Svg, "svg", "S&VG (shapes and text)", "SVG pictures (*.svg)"},
+     {PictureFormat::Pdf, "pdf", "P&DF (shapes and text)", "PDF files (*.pdf)"}}};
 
 }  // namespace
 
@@ -37,10 +40,13 @@ PictureDialog::PictureDialog(Program& program, QWidget* owner, Picture picture, 
   constexpr int FirstWidth = 1600;
   constexpr int WidthStep = 100;
   setWindowModality(Qt::WindowModal);
-  format_ = new QComboBox(this);
-  format_->setObjectName("format");
-  for (const OfferedFormat& format : Formats) {
-    format_->addItem(format.Caption);
+  auto* frame = new QGroupBox("Format", this);
+  auto* options = new QVBoxLayout(frame);
+  options->setSpacing(SmallGap);
+  for (std::size_t i = 0; i < Formats.size(); ++i) {
+    formats_.at(i) = MakeOption(frame, Formats.at(i).Name, Formats.at(i).Caption);
+    options->addWidget(formats_.at(i));
+    connect(formats_.at(i), &QRadioButton::toggled, this, [this] { Mirror(); });
   }
   width_ = new QSpinBox(this);
   width_->setObjectName("pictureWidth");
@@ -50,11 +56,10 @@ PictureDialog::PictureDialog(Program& program, QWidget* owner, Picture picture, 
   width_->setValue(FirstWidth);
   width_->setToolTip("width of the picture, up to 8000 pixels");
   widthCaption_ = MakeFieldLabel(this, "widthLabel", "&Width:", width_);
-  auto* fields = new QFormLayout;
-  fields->setHorizontalSpacing(SmallGap);
-  fields->setVerticalSpacing(SmallGap);
-  fields->addRow(MakeFieldLabel(this, "formatLabel", "&Format:", format_), format_);
-  fields->addRow(widthCaption_, width_);
+  auto* size = new QHBoxLayout;
+  size->setSpacing(SmallGap);
+  size->addWidget(widthCaption_);
+  size->addWidget(width_, 1);
   QPushButton* cancel = MakeButton(this, "cancel", "&Cancel", " close without saving ");
   QPushButton* save = MakeButton(this, "save", "&Save...", " choose the file and save the picture ");
   save->setDefault(true);
@@ -65,25 +70,26 @@ PictureDialog::PictureDialog(Program& program, QWidget* owner, Picture picture, 
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
   layout->setSpacing(LargeGap);
-  layout->addLayout(fields);
+  layout->addWidget(frame);
+  layout->addLayout(size);
   layout->addStretch();
   layout->addLayout(buttons);
-  connect(format_, &QComboBox::currentIndexChanged, this, [this] { Mirror(); });
   connect(cancel, &QPushButton::clicked, this, [this] { Unload(); });
   connect(save, &QPushButton::clicked, this, [this] { Save(); });
-  Mirror();
+  formats_.front()->setChecked(true);
 }
 
-PictureFormat PictureDialog::Format() const
+std::size_t PictureDialog::Chosen() const
 {
-  return Formats.at(static_cast<std::size_t>(format_->currentIndex())).Format;
+  const auto chosen = std::ranges::find_if(formats_, &QRadioButton::isChecked);
+  return static_cast<std::size_t>(chosen - formats_.begin());
 }
 
 /// The format that the file's name tells is the one that is written; without one the name gets an extension.
 void PictureDialog::Save()
 {
   Program& program = Shared();
-  const OfferedFormat& offered = Formats.at(static_cast<std::size_t>(format_->currentIndex()));
+  const OfferedFormat& offered = Formats.at(Chosen());
   auto file = program.ChooseFile("Save picture", OutputPath(State(), suffix_ + ExtensionOf(offered.Format)),
                                  offered.Filter);
   if (!file || file->empty()) {
@@ -106,8 +112,12 @@ void PictureDialog::Save()
 
 void PictureDialog::Mirror()
 {
-  width_->setEnabled(Format() == PictureFormat::Png);
-  widthCaption_->setEnabled(width_->isEnabled());
+  for (QRadioButton* format : formats_) {
+    ShowChoice(*format, format->isChecked());
+  }
+  const bool pixels = formats_.front()->isChecked();
+  width_->setEnabled(pixels);
+  widthCaption_->setEnabled(pixels);
 }
 
 }  // namespace veln

@@ -3,8 +3,10 @@
 #include "desktop/child_window.h"
 #include "render/picture_file.h"
 
-class QComboBox;
+#include <array>
+
 class QLabel;
+class QRadioButton;
 class QSpinBox;
 
 namespace veln {
@@ -19,13 +21,13 @@ class PictureDialog : public ChildWindow {
   PictureDialog(Program& program, QWidget* owner, Picture picture, const char* suffix);
 
  private:
-  [[nodiscard]] PictureFormat Format() const;
+  [[nodiscard]] std::size_t Chosen() const;  // the format, from the top
   void Save();
   void Mirror();
 
   Picture picture_;
   std::string suffix_;
-  QComboBox* format_;
+  std::array<QRadioButton*, 3> formats_{};
   QLabel* widthCaption_;
   QSpinBox* width_;
 };
