@@ -1,20 +1,9 @@
 #include "cli/veln_session.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <nlohmann/json.hpp>
-
-#include <string>
-#include <vector>
 
 namespace veln {
 namespace {
-
-using testing::EndsWith;
-using testing::HasSubstr;
-using testing::Not;
-using testing::StartsWith;
 
 std::string SmallTransect()
 {
@@ -81,9 +70,8 @@ TEST(Pictures, FollowTheOptions)
   options.insert(options.end(), {"--palette", "4", "--symbol-size", "7", "--no-highlight-samples",
                                  "--direction", "ns", "--decimals", "4"});
   ASSERT_EQ(session.Run(SmallTransect(), options).Status, 0);
-  EXPECT_THAT(ReadText(session.Root() / "map.svg"),
-              testing::AllOf(HasSubstr("GrayScale Map of EMv Signal Data"),
-                             HasSubstr("stroke:#c0c0c0;stroke-width:105")));
+  EXPECT_THAT(ReadText(session.Root() / "map.svg"), AllOf(HasSubstr("GrayScale Map of EMv Signal Data"),
+                                                          HasSubstr("stroke:#c0c0c0;stroke-width:105")));
   EXPECT_THAT(ReadText(session.Root() / "line.svg"), HasSubstr("EMv versus Y for Row #2"));
   EXPECT_THAT(ReadText(session.Root() / "grid.svg"), Not(HasSubstr("#00ffff")));
 }

@@ -1,13 +1,6 @@
 #include "cli/veln_session.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 #include <nlohmann/json.hpp>
-
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace veln {
 namespace {
@@ -90,16 +83,6 @@ TEST(RunDocument, HoldsWhatIsWorkedOutByHandInItsOrderAndTypes)
   }
   // Compared as text: 40 and 40.0, equal as numbers, are of two types.
   EXPECT_EQ(Json::parse(result.Out).dump(1), expected.dump(1));
-}
-
-TEST(RunDocument, HasItsChosenSitesInTheFieldFiles)
-{
-  VelnSession session;
-  session.Run(WorkedSurvey(), {"--site-id", "--design", "6"});
-  EXPECT_EQ(ReadText(session.Output("gps1.txt")),
-            " 0.0, 0.0, 1001\r\n 100.0, 0.0, 1004\r\n 0.0, 100.0, 1007\r\n 100.0, 100.0, 1010\r\n"
-            " 50.0, 50.0, 1014\r\n 50.0, 0.0, 1017\r\n");
-  EXPECT_EQ(SplitLines(ReadText(session.Output("xrs1.asc"))).at(4), " 50.0, 50.0, \"FLD1-1014\"");
 }
 
 TEST(RunDocument, TellsASecondSignalItsCorrelationAndTheUnitsOfTheFile)

@@ -1,15 +1,8 @@
 #pragma once
 
-#include "support/files.h"
 #include "support/process.h"
 #include "support/surveys.h"
-#include "support/temporary_directory.h"
-
-#include <filesystem>
-#include <functional>
-#include <string>
-#include <utility>
-#include <vector>
+#include "support/testing.h"
 
 namespace veln {
 

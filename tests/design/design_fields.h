@@ -3,15 +3,8 @@
 #include "design/design_run.h"
 #include "design/srs_form.h"
 #include "support/surveys.h"
+#include "support/testing.h"
 #include "toolkit/number_text.h"
-#include "toolkit/refusal.h"
-
-#include <cstddef>
-#include <cstdint>
-#include <filesystem>
-#include <sstream>
-#include <string>
-#include <vector>
 
 namespace veln {
 
@@ -89,18 +82,6 @@ inline DesignSettings LimitedDesign()
 inline std::string FixedClock()
 {
   return "2026-11-22 14:05:09";
-}
-
-/// The message of the refusal that an action ends with; empty if it is not refused.
-template <class Action>
-std::string RefusalOf(Action action)
-{
-  try {
-    action();
-  } catch (const Refusal& refusal) {
-    return refusal.Message();
-  }
-  return {};
 }
 
 /// Keeps what a run tells as lines of text.

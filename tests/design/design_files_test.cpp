@@ -1,18 +1,6 @@
 #include "design/design_files.h"
 
 #include "design_fields.h"
-#include "support/files.h"
-#include "support/scripted_dialogs.h"
-#include "support/temporary_directory.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <cstddef>
-#include <filesystem>
-#include <string>
-#include <vector>
 
 namespace veln {
 namespace {
@@ -130,11 +118,10 @@ TEST_F(DesignFiles, EverySiteWithTheCodeJoinsTheDesign)
   SaveSamInfo(state, {design, 6, ""}, dialogs_, FixedClock);
   EXPECT_EQ(std::ranges::count(state.SiteStatus, 1), 7);
   EXPECT_EQ(state.SiteStatus[15], 1);
-  EXPECT_THAT(
-      Written("ab12rsd1.txt"),
-      testing::HasSubstr("   110        -1.5            -1.5                130.5          7.25 \r\n"
-                         "   110        -1.5             .6                 130.5          7.25 \r\n"));
-  EXPECT_THAT(Written("ab12gps1.txt"), testing::EndsWith(" 104.5, 7.25, 110\r\n 145.5, 7.25, 117\r\n"));
+  EXPECT_THAT(Written("ab12rsd1.txt"),
+              HasSubstr("   110        -1.5            -1.5                130.5          7.25 \r\n"
+                        "   110        -1.5             .6                 130.5          7.25 \r\n"));
+  EXPECT_THAT(Written("ab12gps1.txt"), EndsWith(" 104.5, 7.25, 110\r\n 145.5, 7.25, 117\r\n"));
 }
 
 }  // namespace

@@ -1,10 +1,6 @@
 #include "design/design_levels.h"
 
-#include <gtest/gtest.h>
-
-#include <cstddef>
-#include <string>
-#include <vector>
+#include "support/testing.h"
 
 namespace veln {
 namespace {
@@ -73,15 +69,6 @@ TEST(DesignLevels, ListingOfOneSignalWithoutSupportSites)
                    "    D-Factor Value:     1.05", "    Sample Size:        5", "",
                    "    D-Point   Design Level(s)", "", "     1         0", "     2         2.63",
                    "     3        -2.63", "     4         1.58", "     5        -1.58", "", ""}));
-}
-
-TEST(DesignLevels, ListingOfTheFullSizeRoundsTheInnerFigure)
-{
-  const LevelListing listing{DesignSize::Full, "1.00", "20", " 2", 2, false, true, false};
-  const Lines lines = ListDLevels(listing, InitDLevels(DesignSize::Full, 1));
-  ASSERT_EQ(lines.size(), 30U);  // 9 of the head, 18 levels, 3 behind them
-  EXPECT_EQ(lines[19], "     11        .88       .88");
-  EXPECT_EQ(lines[28], "    + 2 spatial support sites");
 }
 
 }  // namespace

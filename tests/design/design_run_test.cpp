@@ -2,17 +2,6 @@
 
 #include "design_fields.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <algorithm>
-#include <array>
-#include <cmath>
-#include <cstddef>
-#include <cstdint>
-#include <string>
-#include <vector>
-
 namespace veln {
 namespace {
 

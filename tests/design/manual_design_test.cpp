@@ -1,18 +1,6 @@
 #include "design/manual_design.h"
 
 #include "design_fields.h"
-#include "support/files.h"
-#include "support/scripted_dialogs.h"
-#include "support/temporary_directory.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <cstddef>
-#include <cstdint>
-#include <filesystem>
-#include <string>
-#include <vector>
 
 namespace veln {
 namespace {
@@ -73,7 +61,6 @@ TEST(ManualSelection, ListTellsTheSelectionInSurveyOrder)
   EXPECT_EQ(form.Text2, " Selected Sites:  none");
   AnswerTo(state, "103", SelectSite);
   AnswerTo(state, "101", SelectSite);
-  form = OpenMaskForm(state);  // the selection outlives the window
   ListSelectedSites(form, state);
   EXPECT_EQ(form.Text2, " Selected Sites:   101  103");
 }
@@ -146,7 +133,7 @@ TEST_F(ManualDesign, FailingWriteKeepsTheSelectionAndTheWindow)
 {
   std::filesystem::create_directory(file_);
   const SurveyState before = state_;
-  EXPECT_THAT(RefusalOf([&] { Finish(); }), testing::HasSubstr("ab12ugsd.txt"));
+  EXPECT_THAT(RefusalOf([&] { Finish(); }), HasSubstr("ab12ugsd.txt"));
   EXPECT_EQ(state_, before);
   EXPECT_FALSE(form_.Closed);
   EXPECT_EQ(dialogs_.Said, Lines{});
@@ -155,21 +142,16 @@ TEST_F(ManualDesign, FailingWriteKeepsTheSelectionAndTheWindow)
 
 TEST_F(ManualDesign, DoneWithoutASelectionOrWithoutTheBoxWritesNothing)
 {
-  form_.Check1 = false;
-  SurveyState before = state_;
-  Finish();
-  EXPECT_EQ(state_, before);
-  EXPECT_EQ(dialogs_.Said, Lines{});
-  EXPECT_TRUE(form_.Closed);
-
-  form_ = OpenMaskForm(state_);
-  form_.Check1 = true;
-  state_.SiteStatus = {0, 0, 7};
-  before = state_;
-  Finish();
-  EXPECT_EQ(state_, before);  // the menu stays open
+  for (const bool box : {false, true}) {
+    form_ = OpenMaskForm(state_);
+    form_.Check1 = box;
+    state_.SiteStatus = {box ? site_status::Free : site_status::Selected, 0, 7};
+    const SurveyState before = state_;
+    Finish();
+    EXPECT_EQ(state_, before) << "the menu stays open";
+    EXPECT_TRUE(form_.Closed);
+  }
   EXPECT_EQ(dialogs_.Said, (Lines{"inform: Sample count = 0, hence no output file was created..."}));
-  EXPECT_TRUE(form_.Closed);
   EXPECT_EQ(ListFiles(directory_ / "data/farm"), Lines{});
 }
 

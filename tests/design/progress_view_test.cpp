@@ -2,13 +2,6 @@
 
 #include "design_fields.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <sstream>
-#include <string>
-#include <vector>
-
 namespace veln {
 namespace {
 
@@ -46,18 +39,18 @@ TEST(ProgressView, DrawsADesignStepByStep)
   view.Exchanged(site(0), site(1));
   view.SupportFound(site(3));
   const std::vector<std::string> lines = LinesOf(view.Picture());
-  EXPECT_THAT(lines, testing::ElementsAre(
-                         "filled box -1.1,-1.1 to 1.1,1.1 width 1 colour 255,255,255",
-                         "dot -1,0.5 width 1 colour 0,0,0",  //
-                         "dot 1,-0.5 width 1 colour 0,0,0",  //
-                         "dot 0,0 width 1 colour 0,0,255",   // of an earlier design
-                         "dot -0.5,0.5 width 1 colour 0,0,0",
-                         "dot -1,0.5 width 2 colour 0,128,128",  // candidates
-                         "dot 1,-0.5 width 2 colour 0,128,128", "dot -0.5,0.5 width 2 colour 0,128,128",
-                         "dot -1,0.5 width 3 colour 255,0,0",      // the start
-                         "dot -1,0.5 width 3 colour 255,255,255",  // the exchange
-                         "dot -1,0.5 width 2 colour 0,128,128",    //
-                         "dot 1,-0.5 width 3 colour 255,0,0", "dot -0.5,0.5 width 3 colour 128,0,0"));
+  EXPECT_THAT(lines,
+              ElementsAre("filled box -1.1,-1.1 to 1.1,1.1 width 1 colour 255,255,255",
+                          "dot -1,0.5 width 1 colour 0,0,0",  //
+                          "dot 1,-0.5 width 1 colour 0,0,0",  //
+                          "dot 0,0 width 1 colour 0,0,255",   // of an earlier design
+                          "dot -0.5,0.5 width 1 colour 0,0,0",
+                          "dot -1,0.5 width 2 colour 0,128,128",  // candidates
+                          "dot 1,-0.5 width 2 colour 0,128,128", "dot -0.5,0.5 width 2 colour 0,128,128",
+                          "dot -1,0.5 width 3 colour 255,0,0",      // the start
+                          "dot -1,0.5 width 3 colour 255,255,255",  // the exchange
+                          "dot -1,0.5 width 2 colour 0,128,128",    //
+                          "dot 1,-0.5 width 3 colour 255,0,0", "dot -0.5,0.5 width 3 colour 128,0,0"));
   EXPECT_EQ(repaints, 10) << "once for the clear paper and the map, and after every point";
   view.Clear();
   EXPECT_EQ(LinesOf(view.Picture()), std::vector(1, lines.front()));

@@ -3,24 +3,20 @@
 #include "design/design_optimisation.h"
 #include "design_fields.h"
 
-#include <gtest/gtest.h>
-
-#include <cstddef>
-#include <cstdint>
-#include <vector>
-
 namespace veln {
 namespace {
 
 TEST(SupportSites, CentralLimitFollowsTheSurveySize)
 {
-  EXPECT_EQ(CentralLimit(24), 1);
-  EXPECT_EQ(CentralLimit(125), 1);
-  EXPECT_EQ(CentralLimit(126), 125.0 / 126);
-  EXPECT_EQ(CentralLimit(250), 0.5);
-  EXPECT_EQ(CentralLimit(499), 125.0 / 499);
-  EXPECT_EQ(CentralLimit(500), 0.25);
-  EXPECT_EQ(CentralLimit(30000), 0.25);
+  for (const auto& [size, limit] : {std::pair{24, 1.0},
+                                    {125, 1.0},
+                                    {126, 125.0 / 126},
+                                    {250, 0.5},
+                                    {499, 125.0 / 499},
+                                    {500, 0.25},
+                                    {30000, 0.25}}) {
+    EXPECT_EQ(CentralLimit(size), limit) << size;
+  }
 }
 
 /// The code of the support site of a design whose only point lies at the origin; 0 if there is none.
@@ -49,18 +45,6 @@ TEST(SupportSites, FarthestFreeSiteIsTakenOfEqualOnesTheFirst)
   EXPECT_EQ(SupportOf(state), 101);
   state.SiteStatus[0] = 6;
   EXPECT_EQ(SupportOf(state), 0);  // at no distance from the design there is no support
-}
-
-TEST(SupportSites, WithoutASiteNearTheCentreTheDesignDoesWithout)
-{
-  SurveyState state = LineField();
-  state.SiteStatus[15] = site_status::Masked;
-  state.SiteStatus[16] = 1;
-  RunTranscript transcript;
-  const Design design = MakeDesign(state, LimitedDesign(), transcript);
-  EXPECT_EQ(design.MissingSupportSites, 1);
-  EXPECT_FALSE(design.Sites[5][0].Exists());
-  EXPECT_EQ(transcript.Lines.back(), "Algorithm FINISHED:  Final Opt-Criteria =  1");
 }
 
 }  // namespace

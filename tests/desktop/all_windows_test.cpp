@@ -29,11 +29,6 @@
 #include <QAccessible>
 #include <QHeaderView>
 #include <QRadioButton>
-#include <gmock/gmock.h>
-
-#include <algorithm>
-#include <map>
-#include <set>
 
 namespace veln {
 namespace {
@@ -59,6 +54,12 @@ void Draw(Program& program, GraphEntry entry)
       [&](SurveyGraph& graph) { SelectGraph(graph, program.State, entry, program.Dither); });
 }
 
+template <class Form>
+void ShowPlain(Program& program)
+{
+  program.Show<Form>();
+}
+
 std::vector<Opening> Openings()
 {
   const SurveyState imported = ImportedSurvey(SurveyWithOutlier());
@@ -68,25 +69,25 @@ std::vector<Opening> Openings()
   const SurveyState accepted = AcceptedSurvey(TransectSurvey(20, 20));
   const SurveyState designed = SurveyWithDesigns();
   return {
-      {"frmProject", {}, [](Program& program) { program.Show<frmProject>(); }},
-      {"frmFileIO", {}, [](Program& program) { program.Show<frmFileIO>(); }},
-      {"frmAbout", {}, [](Program& program) { program.Show<frmAbout>(); }},
-      {"frmHelp", {}, [](Program& program) { program.Show<frmHelp>(); }},
+      {"frmProject", {}, ShowPlain<frmProject>},
+      {"frmFileIO", {}, ShowPlain<frmFileIO>},
+      {"frmAbout", {}, ShowPlain<frmAbout>},
+      {"frmHelp", {}, ShowPlain<frmHelp>},
       {"frmStructure", NamedState(),
        [](Program& program) { program.Show<frmStructure>()->SetSurveyType(true); }},
-      {"frmBasicStats", imported, [](Program& program) { program.Show<frmBasicStats>(); }},
-      {"frmSigDecorr", imported, [](Program& program) { program.Show<frmSigDecorr>(); }},
-      {"frmSigVal", decorrelated, [](Program& program) { program.Show<frmSigVal>(); }},
-      {"frmList", decorrelated, [](Program& program) { program.Show<frmList>(); }},
-      {"frmOutFD", saved, [](Program& program) { program.Show<frmOutFD>(); }},
-      {"frmMask", accepted, [](Program& program) { program.Show<frmMask>(); }},
-      {"frmSRS", accepted, [](Program& program) { program.Show<frmSRS>(); }},
+      {"frmBasicStats", imported, ShowPlain<frmBasicStats>},
+      {"frmSigDecorr", imported, ShowPlain<frmSigDecorr>},
+      {"frmSigVal", decorrelated, ShowPlain<frmSigVal>},
+      {"frmList", decorrelated, ShowPlain<frmList>},
+      {"frmOutFD", saved, ShowPlain<frmOutFD>},
+      {"frmMask", accepted, ShowPlain<frmMask>},
+      {"frmSRS", accepted, ShowPlain<frmSRS>},
       {"frmParse", accepted,
        [](Program& program) {
          program.Show<frmSRS>();
          program.Show<frmParse>();
        }},
-      {"frmDList", accepted, [](Program& program) { program.Show<frmDList>(); }},
+      {"frmDList", accepted, ShowPlain<frmDList>},
       {"frmSRSOpt", accepted,
        [](Program& program) {
          program.ShowWith<frmSRSOpt>([&](QWidget* main) { return new frmSRSOpt(program, main, {}); });
@@ -97,8 +98,8 @@ std::vector<Opening> Openings()
          Draw(program, GraphEntry::mnuVs1);
          program.Show<frmLegend>();
        }},
-      {"frmIGC", designed, [](Program& program) { program.Show<frmIGC>(); }},
-      {"frmPCT", designed, [](Program& program) { program.Show<frmPCT>(); }},
+      {"frmIGC", designed, ShowPlain<frmIGC>},
+      {"frmPCT", designed, ShowPlain<frmPCT>},
       {"overlayChooser", designed,
        [](Program& program) {
          Draw(program, GraphEntry::mnuVs1);
@@ -110,7 +111,7 @@ std::vector<Opening> Openings()
          program.ShowWith<PictureDialog>(
              [&](QWidget*) { return new PictureDialog(program, owner, {}, "map"); });
        }},
-      {"frmSiteMap", designed, [](Program& program) { program.Show<frmSiteMap>(); }},
+      {"frmSiteMap", designed, ShowPlain<frmSiteMap>},
   };
 }
 
@@ -168,6 +169,36 @@ class AllWindows : public DesktopTest {
     return widget.objectName().toStdString() + " (" + widget.metaObject()->className() + ")";
   }
 };
+
+TEST_F(AllWindows, EscClosesAndLeavesTheRecord)
+{
+  for (const Opening& opening : Openings()) {
+    SCOPED_TRACE(opening.Name);
+    Set(opening.State);
+    opening.Show(Shared);
+    Settle();
+    const SurveyState before = Shared.State;
+    QTest::keyClick(Window(opening.Name), Qt::Key_Escape);
+    Settle();
+    EXPECT_EQ(Window(opening.Name), nullptr);
+    EXPECT_TRUE(Shared.State == before);
+  }
+}
+
+/// The record may have gone beyond a window's step by way of another one.
+TEST_F(AllWindows, WindowsWhoseStepIsClosedClose)
+{
+  for (const char* name :
+       {"frmProject", "frmStructure", "frmBasicStats", "frmSigDecorr", "frmSigVal", "frmMask"}) {
+    const std::vector<Opening> openings = Openings();
+    const Opening& opening = *std::ranges::find(openings, std::string(name), &Opening::Name);
+    Set(opening.State);
+    opening.Show(Shared);
+    EXPECT_NE(Window(name), nullptr) << name;
+    Set(SurveyWithDesigns());
+    EXPECT_EQ(Window(name), nullptr) << name;
+  }
+}
 
 TEST_F(AllWindows, EveryControlHasAnAccessibleName)
 {

@@ -9,10 +9,6 @@
 #include "desktop/desktop_fixture.h"
 #include "support/surveys.h"
 
-#include <algorithm>
-#include <filesystem>
-#include <string>
-
 namespace veln {
 
 /// The design windows over an accepted survey in project "farm", field "ab12".

@@ -2,9 +2,7 @@
 
 #include "desktop/program.h"
 #include "desktop/workspace/frm_main.h"
-#include "support/files.h"
-#include "support/scripted_dialogs.h"
-#include "support/temporary_directory.h"
+#include "support/testing.h"
 
 #include <QAction>
 #include <QApplication>
@@ -17,16 +15,19 @@
 #include <QSettings>
 #include <QTest>
 #include <QtWidgets>
-#include <gtest/gtest.h>
 
-#include <filesystem>
 #include <memory>
 #include <stdexcept>
-#include <string>
-#include <utility>
-#include <vector>
 
 namespace veln {
+
+/// Lets events run that wait, deletions among them.
+inline void Settle()
+{
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+  QCoreApplication::processEvents();
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+}
 
 /// A program without a main window: its directory has `data/demo` and an empty `helpdocs`, dialogs are
 /// answered from a script, the date stands still, and ending the program is only counted.
@@ -64,14 +65,6 @@ class DesktopTest : public testing::Test {
     state.InputFilePath = Shared.State.InputFilePath;
     Shared.State = std::move(state);
     Shared.Changed();
-  }
-
-  /// Lets events run that wait, deletions among them.
-  static void Settle()
-  {
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-    QCoreApplication::processEvents();
-    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   }
 
   /// The open window of that name, or null.
@@ -189,6 +182,15 @@ class DesktopTest : public testing::Test {
     return QTest::qWaitFor([menu] { return menu->isVisible(); }, 1000);
   }
 };
+
+/// The workflow step by which each entry of the main window opens.
+inline const std::map<std::string, MenuEntry> Gates = {
+    {"mnuProject", MenuEntry::mnuProject}, {"mnuImport", MenuEntry::mnuImport},
+    {"mnuIGSF", MenuEntry::mnuImport},     {"mnuITSF", MenuEntry::mnuImport},
+    {"mnuVPOF", MenuEntry::mnuVPOF},       {"mnuSG", MenuEntry::mnuSG},
+    {"mnuStats", MenuEntry::mnuStats},     {"mnuSigD", MenuEntry::mnuSigD},
+    {"mnuSigV", MenuEntry::mnuSigV},       {"mnuSRS", MenuEntry::mnuSRS},
+    {"mnuMask", MenuEntry::mnuMask},       {"mnuSHowMap", MenuEntry::mnuSHowMap}};
 
 /// A program with its main window open.
 class MainWindowTest : public DesktopTest {

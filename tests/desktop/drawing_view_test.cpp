@@ -1,9 +1,6 @@
 #include "desktop/drawing_view.h"
 
 #include "desktop/desktop_fixture.h"
-#include "render/drawing_painter.h"
-
-#include <numbers>
 
 namespace veln {
 namespace {
@@ -15,45 +12,6 @@ Drawing Paper()
   drawing.ScaleWidth = drawing.ScaleHeight = drawing.PixelWidth = 100;
   drawing.FillBox({0, 0}, {100, 100}, QBColor(15));
   return drawing;
-}
-
-QImage Painted(const Drawing& drawing, double ratio, QImage::Format format)
-{
-  QImage image(QSize(100, 100) * ratio, format);
-  image.setDevicePixelRatio(ratio);
-  QPainter painter(&image);
-  PaintDrawing(painter, drawing, FitDrawing(drawing, QRectF(0, 0, 100, 100)));
-  return image;
-}
-
-/// How much black is on an image, in pixels.
-double Ink(const QImage& image)
-{
-  double ink = 0;
-  for (int y = 0; y < image.height(); ++y) {
-    for (int x = 0; x < image.width(); ++x) {
-      ink += (255 - qRed(image.pixel(x, y))) / 255.0;
-    }
-  }
-  return ink;
-}
-
-TEST(DrawingPainter, DotsHaveTheirPlaceAndAreaHoweverTheyArePainted)
-{
-  for (const double ratio : {1.0, 2.0}) {
-    for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied}) {
-      Drawing drawing = Paper();
-      drawing.PSet({30.5, 40.5}, {QBColor(0), 5});
-      drawing.PSet({70.3, 20.9}, {QBColor(0), 5});
-      drawing.PSet({100, 100}, {QBColor(15), 9});  // the edge cuts it
-      const QImage image = Painted(drawing, ratio, format);
-      EXPECT_EQ(image.pixelColor((QPointF(30.5, 40.5) * ratio).toPoint()), QColor(Qt::black));
-      EXPECT_EQ(image.pixelColor((QPointF(70.3, 20.9) * ratio).toPoint()), QColor(Qt::black));
-      EXPECT_EQ(image.pixelColor((QPointF(34.5, 40.5) * ratio).toPoint()), QColor(Qt::white));
-      const double area = 2 * std::numbers::pi * 2.5 * 2.5 * ratio * ratio;
-      EXPECT_NEAR(Ink(image), area, area / 20) << ratio << ' ' << format;
-    }
-  }
 }
 
 class CountingView : public DrawingView {

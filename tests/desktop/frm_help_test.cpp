@@ -4,13 +4,9 @@
 
 #include <QPushButton>
 #include <QTextBrowser>
-#include <gmock/gmock.h>
 
 namespace veln {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 class FrmHelp : public MainWindowTest {
  protected:
@@ -67,17 +63,6 @@ TEST_F(FrmHelp, PrintStartsTheEditorOnACopyByteForByte)
   EXPECT_EQ(Text("frmHelp", "Command2"), "Return to VELN");
   Click("frmHelp", "Command2");
   EXPECT_EQ(Window("frmHelp"), nullptr);
-}
-
-TEST_F(FrmHelp, PrintThatFailsTellsTheSystemsReason)
-{
-  Document("hdoc14", R"({\rtf1 A page\par})");
-  std::filesystem::create_directories(Directory / "helpdoc.rtf" / "in the way");
-  RequestHelp(Shared, "hdoc14");
-  Click("frmHelp", "Command1");
-  ASSERT_EQ(Asked.Said.size(), 1U);
-  EXPECT_THAT(Asked.Said[0], HasSubstr("warn: "));
-  EXPECT_NE(Window("frmHelp"), nullptr);
 }
 
 TEST_F(FrmHelp, AboutTellsVersionLicenceAndMaker)

@@ -3,13 +3,8 @@
 #include "desktop/desktop_fixture.h"
 #include "support/surveys.h"
 
-#include <gmock/gmock.h>
-
 namespace veln {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 /// The export window over a survey of 80 sites with one design.
 class FrmOutFD : public DesktopTest {
@@ -34,8 +29,6 @@ class FrmOutFD : public DesktopTest {
 TEST_F(FrmOutFD, WritesTheFileByItselfAndAsksThen)
 {
   EXPECT_EQ(Window("frmOutFD")->windowTitle(), "Data File Export");
-  EXPECT_EQ(Text("frmOutFD", "Label2"), "Creating output data file, one moment please...");
-  EXPECT_EQ(Text("frmOutFD", "Label1"), "Writing Line # XXX to output data file");
   for (const char* hidden : {"Label1", "Label2", "Frame1", "Command1"}) {
     EXPECT_FALSE(Shown("frmOutFD", hidden)) << hidden;
   }
@@ -44,13 +37,7 @@ TEST_F(FrmOutFD, WritesTheFileByItselfAndAsksThen)
   ASSERT_TRUE(Exported());
   EXPECT_EQ(Text("frmOutFD", "Label2"), "ab12data.svy output signal data file created");
   EXPECT_EQ(Text("frmOutFD", "Label1"), " 80 lines were successfully exported");
-  EXPECT_EQ(Text("frmOutFD", "Frame1"), "Confirm Program Exit");
-  EXPECT_THAT(ReadText(Project() / "ab12data.svy"), testing::StartsWith("80,4,\"G\",\"none\""));
-}
-
-TEST_F(FrmOutFD, YesEndsTheProgram)
-{
-  ASSERT_TRUE(Exported());
+  EXPECT_THAT(ReadText(Project() / "ab12data.svy"), StartsWith("80,4,\"G\",\"none\""));
   Click("frmOutFD", "Command1");
   EXPECT_EQ(Ended, 1);
   EXPECT_EQ(Window("frmOutFD"), nullptr);
@@ -65,7 +52,7 @@ TEST_F(FrmOutFD, NoLeavesAndTheNextOpeningWritesAfresh)
   WriteText(Project() / "ab12data.svy", "old");
   Shared.Show<frmOutFD>();
   ASSERT_TRUE(Exported());
-  EXPECT_THAT(ReadText(Project() / "ab12data.svy"), testing::StartsWith("80,4"));
+  EXPECT_THAT(ReadText(Project() / "ab12data.svy"), StartsWith("80,4"));
   EXPECT_THAT(ListFiles(Project()), ElementsAre("ab12data.svy"));
 }
 
@@ -85,8 +72,7 @@ TEST_F(FrmOutFD, AFailureTellsItsReasonAndLetsTheUserLeaveOrStay)
   ASSERT_TRUE(Exported());
   EXPECT_EQ(Text("frmOutFD", "Label1"), " 0 lines were successfully exported");
   EXPECT_EQ(Text("frmOutFD", "Label2"), "ab12data.svy could not be written");
-  ASSERT_EQ(Asked.Said.size(), 1U);
-  EXPECT_THAT(Asked.Said[0], HasSubstr("warn: "));
+  EXPECT_THAT(Asked.Said, ElementsAre(HasSubstr("warn: ")));
 }
 
 }  // namespace

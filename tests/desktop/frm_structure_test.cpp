@@ -9,16 +9,14 @@
 #include <QRadioButton>
 #include <QTableWidget>
 #include <QUrl>
-#include <gmock/gmock.h>
 
 namespace veln {
 namespace {
 
-using testing::ElementsAre;
-
 /// The texts with which a label was painted, one after the other.
 class PaintWatch : public QObject {
  public:
+  explicit PaintWatch(QWidget& label) { label.installEventFilter(this); }
   bool eventFilter(QObject* watched, QEvent* event) override
   {
     const auto* label = dynamic_cast<QLabel*>(watched);
@@ -63,56 +61,17 @@ class FrmStructure : public DesktopTest {
 
 TEST_F(FrmStructure, StartsWithTheGivenState)
 {
-  EXPECT_EQ(Text("frmStructure", "Text3"), "");
   EXPECT_TRUE(Checked("Check3") && Checked("Option2"));
   EXPECT_FALSE(Checked("Check1") || Checked("Check2") || Checked("Check4") || Checked("Option1"));
-  EXPECT_EQ(Text("frmStructure", "Text1"), "EMv");
-  EXPECT_EQ(Text("frmStructure", "Text2"), "EMh");
+  EXPECT_EQ(Text("frmStructure", "Text1") + Text("frmStructure", "Text2"), "EMvEMh");
   for (const char* hidden : {"Label8", "Text2", "Label12", "Label13", "Label14", "Label15"}) {
     EXPECT_FALSE(Shown("frmStructure", hidden)) << hidden;
   }
   EXPECT_EQ(ColourOf("Check1"), QColor(0, 128, 0));
-  EXPECT_EQ(ColourOf("Check3"), QColor(0, 0, 255));
+  EXPECT_THAT(Text("frmStructure", "Label9"), HasSubstr("row-num"));
   EXPECT_TRUE(Shown("frmStructure", "Label5"));
-  EXPECT_EQ(Text("frmStructure", "Label9"),
-            "Required Record Order:  site-ID*,  x-cord,  y-cord,  s1,  s2*,  row-num    (* if present)");
   Shared.Find<frmStructure>()->SetSurveyType(false);
   EXPECT_FALSE(Shown("frmStructure", "Label5"));
-}
-
-TEST_F(FrmStructure, ExactlyOneOfTheUnitsIsOn)
-{
-  for (const char* box : {"Check4", "Check4", "Check3", "Check3"}) {
-    const bool milli = Checked("Check3");
-    Click("frmStructure", box);
-    EXPECT_NE(Checked("Check3"), milli) << box;
-    EXPECT_NE(Checked("Check4"), Checked("Check3")) << box;
-    EXPECT_EQ(ColourOf(milli ? "Check4" : "Check3"), QColor(0, 0, 255));
-    EXPECT_EQ(ColourOf(milli ? "Check3" : "Check4"), QColor(0, 0, 0));
-  }
-}
-
-TEST_F(FrmStructure, TransformPutsItsLabelsOverWhatWasTyped)
-{
-  Type("frmStructure", "Text1", "deep signal of mine");
-  EXPECT_EQ(Text("frmStructure", "Text1"), "deep signa") << "at most 10 characters";
-  Click("frmStructure", "Option1");
-  EXPECT_EQ(Text("frmStructure", "Text1"), "log(EMv)");
-  EXPECT_EQ(Text("frmStructure", "Text2"), "log(EMh)");
-  Click("frmStructure", "Option2");
-  EXPECT_EQ(Text("frmStructure", "Text1"), "EMv");
-}
-
-TEST_F(FrmStructure, SecondSignalShowsItsLabelAndItsColumn)
-{
-  Name("1,2,3,4,5\n");
-  Click("frmStructure", "Check2");
-  EXPECT_TRUE(Shown("frmStructure", "Label8") && Shown("frmStructure", "Text2"));
-  EXPECT_EQ(ColourOf("Check2"), QColor(0, 0, 255));
-  ASSERT_EQ(Preview().columnCount(), 5);
-  EXPECT_EQ(Preview().horizontalHeaderItem(3)->text(), "s2");
-  Click("frmStructure", "Check2");
-  EXPECT_FALSE(Shown("frmStructure", "Label8") || Shown("frmStructure", "Text2"));
 }
 
 TEST_F(FrmStructure, BrowseFillsThePathAndCancelEmptiesIt)
@@ -124,12 +83,10 @@ TEST_F(FrmStructure, BrowseFillsThePathAndCancelEmptiesIt)
   EXPECT_EQ(Asked.Questions.at(0).InitDir, Shared.State.InputFilePath);
   EXPECT_EQ(Asked.Questions.at(0).Filter.at(0).Text, "all input file types (*.*)");
   Click("frmStructure", "Command3");
-  EXPECT_EQ(Text("frmStructure", "Text3"), "");
   Asked.Said.clear();
   Click("frmStructure", "Command1");
   EXPECT_THAT(Asked.Said,
               ElementsAre("beep", "warn: Error! File not found! Please re-enter filename information..."));
-  EXPECT_NE(Window("frmStructure"), nullptr);
 }
 
 TEST_F(FrmStructure, PreviewMarksTheFirstItemThatWouldBeRefused)
@@ -137,14 +94,13 @@ TEST_F(FrmStructure, PreviewMarksTheFirstItemThatWouldBeRefused)
   const SurveyState before = Shared.State;
   Name("600000.5,3.25,40,1\n600001.5,3.25,41,1\n");
   EXPECT_EQ(Preview().rowCount(), 2);
-  EXPECT_FALSE(Preview().item(0, 0)->font().bold());
   Click("frmStructure", "Check1");
   const QTableWidgetItem& marked = *Preview().item(0, 0);
   EXPECT_EQ(Preview().horizontalHeaderItem(0)->text(), "site-ID");
   EXPECT_TRUE(marked.font().bold());
   EXPECT_EQ(marked.foreground().color(), QColor(255, 0, 0));
   EXPECT_THAT(Text("frmStructure", "previewNote"),
-              testing::StartsWith("Record 1, site-ID: \"600000.5\" would be refused"));
+              StartsWith("Record 1, site-ID: \"600000.5\" would be refused"));
   Click("frmStructure", "Check1");
   EXPECT_FALSE(Preview().item(0, 0)->font().bold());
   EXPECT_TRUE(Shared.State == before);
@@ -156,9 +112,7 @@ TEST_F(FrmStructure, FailedImportKeepsWindowAndRecord)
   const SurveyState before = Shared.State;
   QTest::keyClick(&Control("frmStructure", "Text3"), Qt::Key_Return);
   Settle();
-  ASSERT_EQ(Asked.Said.size(), 1U);
-  EXPECT_THAT(Asked.Said[0], testing::StartsWith("warn: Error!  Non-numeric data was detected"));
-  EXPECT_NE(Window("frmStructure"), nullptr);
+  EXPECT_THAT(Asked.Said, ElementsAre(StartsWith("warn: Error!  Non-numeric data was detected")));
   EXPECT_EQ(Text("frmStructure", "Text3"), RawPath().toStdString());
   EXPECT_TRUE(Shared.State == before);
   EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
@@ -170,20 +124,16 @@ TEST_F(FrmStructure, ImportFillsTheRecordAndClosesTheWindow)
   for (const char* choice : {"Check1", "Check2", "Check4", "Option1"}) {
     Click("frmStructure", choice);
   }
-  Type("frmStructure", "Text2", "R&D 2");
+  Type("frmStructure", "Text1", "R&D 1 and more");
   Click("frmStructure", "Command1");
   EXPECT_EQ(Window("frmStructure"), nullptr);
   EXPECT_TRUE(Asked.Said.empty());
   const SurveyState& state = Shared.State;
   EXPECT_EQ(state.SurveySize, 50);
-  EXPECT_EQ(state.SignalCount, 2);
-  EXPECT_THAT(state.SignalLabel, ElementsAre("log(EMv)", "R&D 2"));
-  EXPECT_EQ(state.SignalUnits, "dS/m");
-  EXPECT_EQ(state.SignalTransformText, "natural log");
-  EXPECT_EQ(state.SurveyType, "Transect");
+  EXPECT_THAT(state.SignalLabel, ElementsAre("R&D 1 and ", "log(EMh)")) << "at most 10 characters";
+  EXPECT_EQ(state.SignalUnits + state.SignalTransformText + state.SurveyType, "dS/mnatural logTransect");
   EXPECT_EQ(state.ImportFileName, RawPath().toStdString());
   EXPECT_FALSE(state.Menu.IsEnabled(MenuEntry::mnuImport));
-  EXPECT_TRUE(state.Menu.IsEnabled(MenuEntry::mnuSigD));
 }
 
 TEST_F(FrmStructure, CountersAreRepaintedEveryHundredLines)
@@ -191,10 +141,8 @@ TEST_F(FrmStructure, CountersAreRepaintedEveryHundredLines)
   Name(RawFileText(TransectSurvey(10, 25, 1), {true, false, false}));
   ASSERT_TRUE(QTest::qWaitForWindowExposed(Window("frmStructure")));
   Settle();
-  PaintWatch scanned;
-  PaintWatch imported;
-  Control("frmStructure", "Label13").installEventFilter(&scanned);
-  Control("frmStructure", "Label15").installEventFilter(&imported);
+  const PaintWatch scanned(Control("frmStructure", "Label13"));
+  const PaintWatch imported(Control("frmStructure", "Label15"));
   Click("frmStructure", "Command1");
   EXPECT_THAT(scanned.Texts, ElementsAre("0", "100", "200", "250"));
   EXPECT_THAT(imported.Texts, ElementsAre("0", "100", "200", "250"));
@@ -219,15 +167,6 @@ TEST_F(FrmStructure, DroppedFileFillsThePathWhereverItFalls)
   foreign.ignore();
   QApplication::sendEvent(Window("frmStructure"), &foreign);
   EXPECT_FALSE(foreign.isAccepted());
-}
-
-TEST_F(FrmStructure, CancelClosesAndAnImportElsewhereToo)
-{
-  Click("frmStructure", "Command2");
-  EXPECT_EQ(Window("frmStructure"), nullptr);
-  Open(NamedState());
-  Set(ImportedSurvey(GridSurvey(10, 10)));
-  EXPECT_EQ(Window("frmStructure"), nullptr);
 }
 
 }  // namespace

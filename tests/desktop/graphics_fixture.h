@@ -10,8 +10,6 @@
 #include <QAbstractButton>
 #include <QImage>
 
-#include <string>
-
 namespace veln {
 
 /// An accepted transect survey of 100 sites with one site far out, transition scores, two saved designs of

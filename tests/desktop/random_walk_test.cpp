@@ -16,8 +16,6 @@
 #include <QScrollBar>
 #include <QTableWidget>
 
-#include <algorithm>
-
 namespace veln {
 namespace {
 
@@ -42,13 +40,6 @@ class RandomDialogs : public Dialogs {
  private:
   SteadyRandom& random_;
 };
-
-void Settle()
-{
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-  QCoreApplication::processEvents();
-  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
-}
 
 class RandomWalk : public testing::TestWithParam<std::uint64_t> {
  protected:
@@ -88,7 +79,7 @@ class RandomWalk : public testing::TestWithParam<std::uint64_t> {
     } else if (kind < 0.38) {
       Any(windows)->close();
     } else if (kind < 0.42) {
-      PickSomething(*Any(windows));
+      ChooseInWindow(*Any(windows));
     } else if (kind < 0.7) {
       GoOn(*Any(windows));
     } else {
@@ -105,8 +96,8 @@ class RandomWalk : public testing::TestWithParam<std::uint64_t> {
   void ExpectAgreement() const
   {
     const SurveyState& state = Shared.State;
-    for (const auto& [name, entry] : Entries) {
-      EXPECT_EQ(main_->findChild<QAction*>(name)->isEnabled(), state.Menu.IsEnabled(entry)) << name;
+    for (const auto& [name, entry] : Gates) {
+      EXPECT_EQ(main_->findChild<QAction*>(name.c_str())->isEnabled(), state.Menu.IsEnabled(entry)) << name;
     }
     const std::vector<ChildWindow*> windows = OpenWindows();
     for (const ChildWindow* window : windows) {
@@ -172,18 +163,6 @@ class RandomWalk : public testing::TestWithParam<std::uint64_t> {
   int Designs = 0;  ///< saved by the algorithm
 
  private:
-  static constexpr std::array<std::pair<const char*, MenuEntry>, 10> Entries = {
-      {{"mnuProject", MenuEntry::mnuProject},
-       {"mnuIGSF", MenuEntry::mnuImport},
-       {"mnuITSF", MenuEntry::mnuImport},
-       {"mnuVPOF", MenuEntry::mnuVPOF},
-       {"mnuSG", MenuEntry::mnuSG},
-       {"mnuStats", MenuEntry::mnuStats},
-       {"mnuSigD", MenuEntry::mnuSigD},
-       {"mnuSigV", MenuEntry::mnuSigV},
-       {"mnuSRS", MenuEntry::mnuSRS},
-       {"mnuMask", MenuEntry::mnuMask}}};
-
   void StartAfresh()
   {
     main_.reset();
@@ -231,7 +210,7 @@ class RandomWalk : public testing::TestWithParam<std::uint64_t> {
   }
 
   /// Chooses from the menus of a window that has its own, and moves about in its plot.
-  void ChooseInWindow(ChildWindow& window)
+  void ChooseInWindow(const ChildWindow& window)
   {
     std::vector<QAction*> open;
     for (auto* entry : window.findChildren<QAction*>()) {
@@ -268,19 +247,6 @@ class RandomWalk : public testing::TestWithParam<std::uint64_t> {
       if (bar->objectName().startsWith("HScroll")) {
         QTest::keyClick(bar, Any(std::vector{Qt::Key_Left, Qt::Key_Right, Qt::Key_PageUp, Qt::Key_End}));
       }
-    }
-  }
-
-  void PickSomething(const ChildWindow& window)
-  {
-    std::vector<QAction*> entries;
-    for (auto* entry : window.findChildren<QAction*>()) {
-      if (entry->isEnabled() && entry->menu() == nullptr && !entry->isSeparator()) {
-        entries.push_back(entry);
-      }
-    }
-    if (!entries.empty()) {
-      Any(entries)->trigger();
     }
   }
 

@@ -1,15 +1,10 @@
 #include "graph_fields.h"
 #include "graphics/igc_form.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 namespace veln {
 namespace {
 
 using enum GraphEntry;
-using testing::Each;
-using testing::ElementsAre;
 
 /// s1 has the mean 10 and the deviation 2: squares 4 + 4 + 0 = 8, over n - 1 = 2.
 SurveyState ThreeClasses()
@@ -108,28 +103,6 @@ TEST(DesignOverlay, MarksTheDesignsAskedForOnTheMapShown)
   }
   EXPECT_EQ(graph.Shown.Labels, map.Labels);
   EXPECT_FALSE(graph.Shown.LegendPanel);
-}
-
-TEST(LabelledSiteMap, HasSpecksHeavyDotsAndBoldNumbersToTheUpperLeft)
-{
-  SurveyState state = ThreeClasses();
-  state.SiteStatus = {site_status::Masked, 3, site_status::Outlier};
-  SurveyGraph graph = OpenGraph(state);
-  SetCCDDP(graph, {1, 5, 4});
-  const Limits before = graph.XRange;
-  MakeSSMap(graph, state, {false, false, true});
-  // x from 0 to 100 is widened by 5 to either side, y from 0 to 40 by 2 and then to the same length about 20.
-  EXPECT_EQ(graph.Shown.Labels, (AxisLabels{"-5.00", "50.00", "105.00", "-35.00", "20.00", "75.00"}));
-  EXPECT_THAT(DotPens(graph.Shown),
-              ElementsAre(Pen{QBColor(9), 1}, Pen{QBColor(0), 1}, Pen{QBColor(1), 4}, Pen{QBColor(0), 1}));
-  const auto texts = Only<TextMark>(graph.Shown.Picture);
-  ASSERT_EQ(texts.size(), 1);
-  const DrawPoint at = graph.Shown.Sites[1].At;
-  EXPECT_EQ(texts[0], (TextMark{{at.X - 0.05, at.Y - 0.08}, " 2 ", QBColor(0), 8, true}));
-  EXPECT_EQ(graph.Shown.Title, "VELN Sample Site Locations");
-  EXPECT_EQ(graph.XRange.Minimum, before.Minimum);
-  EXPECT_EQ(graph.XRange.Maximum, before.Maximum);
-  EXPECT_FALSE(graph.OverlayAllowed());
 }
 
 TEST(LegendWindow, HasFourDotsInTheColoursOfTheClasses)

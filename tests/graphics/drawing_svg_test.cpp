@@ -2,18 +2,10 @@
 
 #include "graphics/mark_layers.h"
 #include "support/surveys.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
-#include <map>
-#include <string>
-#include <vector>
+#include "support/testing.h"
 
 namespace veln {
 namespace {
-
-using testing::HasSubstr;
 
 Drawing Surface()
 {

@@ -1,12 +1,6 @@
 #include "graph_fields.h"
 #include "graphics/drawing_svg.h"
 #include "graphics/plot_page.h"
-#include "support/files.h"
-#include "support/scripted_dialogs.h"
-
-#include <gtest/gtest.h>
-
-#include <functional>
 
 namespace veln {
 namespace {

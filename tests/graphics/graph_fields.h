@@ -4,12 +4,7 @@
 #include "signal/row_table.h"
 #include "signal/transition_analysis.h"
 #include "support/surveys.h"
-
-#include <cstdint>
-#include <initializer_list>
-#include <string>
-#include <utility>
-#include <vector>
+#include "support/testing.h"
 
 namespace veln {
 

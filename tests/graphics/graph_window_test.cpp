@@ -3,61 +3,11 @@
 #include "graphics/pct_form.h"
 #include "graphics/plot_statistics.h"
 #include "graphics/site_text.h"
-#include "support/refusals.h"
-#include "support/scripted_dialogs.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace veln {
 namespace {
 
 using enum GraphEntry;
-using testing::ElementsAre;
-using testing::IsEmpty;
-
-/// The entries that are enabled, by their place in the menus.
-std::vector<GraphEntry> EnabledEntries(const SurveyGraph& graph)
-{
-  std::vector<GraphEntry> entries;
-  for (int i = 0; i < GraphEntryCount; ++i) {
-    if (graph.IsEnabled(static_cast<GraphEntry>(i))) {
-      entries.push_back(static_cast<GraphEntry>(i));
-    }
-  }
-  return entries;
-}
-
-TEST(GraphMenu, OffersWhatTheSurveyHasAtTheOpening)
-{
-  SurveyState one = ImportedSurvey(GridSurvey(5, 4, 1));
-  EXPECT_THAT(EnabledEntries(LoadSurveyGraph(one)),
-              ElementsAre(mnuGrid, mnuScatter, mnuSs1x, mnuSs1y, mnuLs1, mnuHist, mnuHs1, mnuCSG, mnuVs1));
-  SurveyState all = SmallExample();
-  all.DesignCount = 0;
-  all.ManualDesignDone = false;
-  EXPECT_THAT(EnabledEntries(LoadSurveyGraph(all)),
-              ElementsAre(mnuGrid, mnuScatter, mnuSs1x, mnuSs1y, mnuSs2x, mnuSs2y, mnuSs1s2, mnuSz1z2, mnuLs1,
-                          mnuHist, mnuHs1, mnuHs2, mnuHz1, mnuHz2, mnuHta, mnuCSG, mnuVs1, mnuVs2, mnuVz1,
-                          mnuVz2, mnuVta));
-  EXPECT_FALSE(all.OverlayReady);
-}
-
-TEST(GraphMenu, OffersTheOverlayOnMapsOnceADesignExists)
-{
-  SurveyState state = SmallExample();
-  SurveyGraph graph = OpenGraph(state);
-  DitherGenerator dither;
-  EXPECT_TRUE(state.OverlayReady);
-  EXPECT_FALSE(graph.IsEnabled(mnuOSS));
-  for (const GraphEntry other : {mnuGrid, mnuSs1x, mnuSz1z2, mnuLs1, mnuHs1}) {
-    ShowColourMap(graph, state, mnuVz2);
-    EXPECT_TRUE(graph.IsEnabled(mnuOSS));
-    SelectGraph(graph, state, other, dither);
-    EXPECT_FALSE(graph.IsEnabled(mnuOSS));
-  }
-  EXPECT_EQ(ExistingDesigns(state), (DesignFlags{true, true, false, false, false, true}));
-}
 
 TEST(GraphMenu, RefusesAClosedEntryAndKeepsThePlot)
 {
@@ -109,42 +59,6 @@ TEST(StatisticsPanel, FollowsTheKindsOfItsArguments)
             (PlotStatistics{"EMv", "u= 1.001", "", "min and max", "12.340", "15.000", "", "", ""}));
 }
 
-TEST(GraphicsInitialisation, AppliesAllChoicesAtOnceAndForgetsDirectionAndHighlights)
-{
-  SurveyState state = SmallExample();
-  SurveyGraph graph = LoadSurveyGraph(state);
-  SetHLOps(graph, false, false);
-  ScriptedDialogs dialogs;
-  IgcForm form = LoadIgcForm(graph, state);
-  EXPECT_TRUE(form.DirectionEnabled && form.Check4 && form.Check5);
-  EXPECT_FALSE(form.Check1 || form.Option1 || form.Option2);
-  TickLinePlots(form, true);
-  MoveSymbolSize(form, 11);
-  ChoosePalette(form, 4);
-  ChoosePlaces(form, 5);
-  InitializeGraphics(form, graph, state, dialogs);
-  EXPECT_THAT(dialogs.Said, ElementsAre("inform: Please select the Transect Direction before attempting to "
-                                        "initialize Line Plots!"));
-  EXPECT_FALSE(form.Closed || graph.IsEnabled(mnuLine));
-  EXPECT_EQ(graph.Options.PaletteChoice, 1);
-  ChooseDirection(form, true);
-  InitializeGraphics(form, graph, state, dialogs);
-  EXPECT_TRUE(form.Closed && graph.IsEnabled(mnuLine) && graph.IsEnabled(mnuLs1s2));
-  EXPECT_EQ(graph.TransectAxis, 'y');
-  EXPECT_EQ(graph.RowCount(), 5);
-  PlotOptions expected;
-  expected.SymbolSize = 10;
-  expected.PaletteChoice = 4;
-  expected.MapPalette = 4;
-  expected.DecimalPlaces = 5;
-  EXPECT_EQ(graph.Options, expected);
-  IgcForm again = LoadIgcForm(graph, state);
-  EXPECT_FALSE(again.Check1 || again.Option1);
-  EXPECT_EQ(again.Text1(), "10");
-  InitializeGraphics(again, graph, state, dialogs);
-  EXPECT_EQ(graph.TransectAxis, 'y') << "an unticked box leaves the line plots as they were";
-}
-
 TEST(GraphicsInitialisation, HasNoLinePlotsOnAGrid)
 {
   SurveyState state = ImportedSurvey(GridSurvey(5, 4));
@@ -164,26 +78,22 @@ TEST(Translation, AsksClearsThePlotAndTellsWhenItIsDone)
   SurveyGraph graph = OpenGraph(state);
   ShowColourMap(graph, state, mnuVs1);
   ScriptedDialogs dialogs({false, true});
-  const Plot map = graph.Shown;
   EXPECT_FALSE(StartTranslation(graph, dialogs));
-  EXPECT_EQ(graph.Shown.Picture, map.Picture);
+  EXPECT_TRUE(graph.Shown.LegendPanel);
   EXPECT_TRUE(StartTranslation(graph, dialogs));
   EXPECT_EQ(dialogs.Said[1],
             "ask: WARNING!  Any translation(s) you perform will \nPERMANENTLY change the X and Y "
             "coordinates!\n\nDo you still wish to proceed with this option?");
   EXPECT_EQ(graph.Shown.Picture.Marks.size(), Plot::FrameMarks);
-  EXPECT_EQ(graph.Shown.Title, "");
   EXPECT_FALSE(graph.OverlayAllowed() || graph.Shown.LegendPanel);
 
   const Limits x = graph.XRange;
   PctForm form;
-  EXPECT_FALSE(form.Command2Visible());
   form.Selected = TranslationKind::Swap;
   ApplyTranslation(form, graph, state, nullptr);
   EXPECT_TRUE(form.Closed);
   EXPECT_EQ(graph.Shown.Title, "Translation Completed...");
   EXPECT_EQ(graph.YRange.Maximum, x.Maximum);
-  EXPECT_FALSE(NorthArrowOffered(state));
   form.Selected = TranslationKind::Rotate;
   MoveRotation(form, 200);
   EXPECT_EQ(form.Text1(), "180");

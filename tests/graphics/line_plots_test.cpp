@@ -1,16 +1,9 @@
 #include "graph_fields.h"
-#include "support/refusals.h"
-#include "support/scripted_dialogs.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
 
 namespace veln {
 namespace {
 
 using enum GraphEntry;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 constexpr const char* NoSuchRow = "inform: Error! Requested Row # does not exist!";
 
@@ -38,26 +31,6 @@ class LinePlots : public testing::Test {
   SurveyGraph Graph;
   ScriptedDialogs Dialogs;
 };
-
-TEST_F(LinePlots, JoinTheSitesOfARowOnTheAxesOfTheWholeSurvey)
-{
-  State.SiteStatus[2] = site_status::Masked;
-  StartLinePlots(Graph, mnuLs1);
-  Plot("1");
-  const Pen dot{QBColor(0), 2};
-  const Pen line{QBColor(1), 1};
-  const DrawPoint a{-1, 1};
-  const DrawPoint b{0, 0.5};
-  const DrawPoint c{1, -1};
-  const std::vector<DrawMark> drawn(Graph.Shown.Picture.Marks.begin() + 8, Graph.Shown.Picture.Marks.end());
-  EXPECT_THAT(drawn, ElementsAre(DotMark{a, dot}, DotMark{b, dot}, LineMark{a, b, line}, DotMark{b, dot},
-                                 DotMark{c, dot}, LineMark{b, c, line}, DotMark{c, {QBColor(14), 4}}));
-  EXPECT_EQ(Graph.Shown.Title, "EMv versus X for Row #1");
-  EXPECT_EQ(Graph.Shown.Labels, (AxisLabels{"0", "5", "10", "1.00", "3.00", "5.00"}));
-  EXPECT_EQ(Graph.Shown.Sites.size(), 3);
-  EXPECT_TRUE(Graph.LinePanel.Command6Enabled);
-  EXPECT_FALSE(Graph.LinePanel.Command7Enabled);
-}
 
 TEST_F(LinePlots, OfBothSignalsShareTheirRangeAndStayOverOneAnother)
 {
@@ -137,15 +110,6 @@ TEST_F(LinePlots, ArrowsStepBetweenTheRowsAndCloseTheStatistics)
   Graph.LinePanel.Text1 = "x";
   NextRow(Graph);
   EXPECT_EQ(panel.Text1, "1");
-}
-
-TEST_F(LinePlots, OfOneRowCloseTheArrowWithItsFirstPress)
-{
-  Graph.Rows.resize(1);
-  EXPECT_TRUE(Graph.LinePanel.Command1Enabled);
-  NextRow(Graph);
-  EXPECT_EQ(Graph.LinePanel.Text1, "1");
-  EXPECT_FALSE(Graph.LinePanel.Command1Enabled);
 }
 
 TEST_F(LinePlots, StatisticsOfBothSignalsStandBelowOneAnother)

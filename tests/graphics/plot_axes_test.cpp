@@ -1,9 +1,6 @@
 #include "graphics/plot_axes.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
-#include <vector>
+#include "support/testing.h"
 
 namespace veln {
 namespace {

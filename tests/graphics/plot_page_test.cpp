@@ -2,14 +2,10 @@
 
 #include "graph_fields.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 namespace veln {
 namespace {
 
 using enum GraphEntry;
-using testing::IsEmpty;
 
 std::vector<std::string> TextsOf(const Drawing& drawing)
 {
@@ -93,7 +89,7 @@ TEST(MapFurniture, HasARoundLengthAndStandsWhereTheFewestSitesAre)
   drawn.Marks = marks;
   const auto lines = Only<LineMark>(drawn);
   EXPECT_NEAR(lines[0].To.X - lines[0].From.X, 20 / 50.0, 1E-12) << "20 of 50 units a half axis";
-  EXPECT_THAT(TextsOf(drawn), testing::ElementsAre("20", "N"));
+  EXPECT_THAT(TextsOf(drawn), ElementsAre("20", "N"));
   const auto backs = Only<BoxMark>(drawn);
   EXPECT_TRUE(backs[0].First.X > 0 && backs[0].First.Y > 0) << "the bar is at the lower right";
   EXPECT_TRUE(backs[1].First.X < 0 && backs[1].First.Y < 0) << "the arrow is at the upper left";

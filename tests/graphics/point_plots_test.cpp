@@ -1,16 +1,9 @@
 #include "graph_fields.h"
 
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
-
 namespace veln {
 namespace {
 
 using enum GraphEntry;
-using testing::DoubleNear;
-using testing::Each;
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 const Pen Plain{QBColor(1), 2};
 
@@ -18,17 +11,6 @@ const Pen Plain{QBColor(1), 2};
 SurveyState FiveSites()
 {
   return SitesAt({100, 120, 140, 160, 180}, {0, 40, 20, 10, 30}, {30, 10, 50, 20, 40}, {2, 3, 4, 5, 6});
-}
-
-TEST(PlotBox, IsOneFilledBoxItsFrameAndSixTicks)
-{
-  const Plot plot = PlotOf(FiveSites(), mnuGrid);
-  const auto& marks = plot.Picture.Marks;
-  EXPECT_EQ(marks[0], DrawMark(BoxMark{{-1.05, -1.05}, {1.05, 1.05}, {QBColor(15), 1}, true}));
-  EXPECT_EQ(marks[1], DrawMark(BoxMark{{-1.05, -1.05}, {1.05, 1.05}, {QBColor(0), 2}, false}));
-  EXPECT_EQ(marks[3], DrawMark(LineMark{{-1.08, 0}, {-1.05, 0}, {QBColor(0), 2}}));
-  EXPECT_EQ(marks[7], DrawMark(LineMark{{1, 1.05}, {1, 1.08}, {QBColor(0), 2}}));
-  EXPECT_EQ(Only<LineMark>(plot.Picture).size(), 6);
 }
 
 TEST(ScatterPlot, HasItsExtremesAtOneAndLabelsTitleAndStatistics)
@@ -44,19 +26,6 @@ TEST(ScatterPlot, HasItsExtremesAtOneAndLabelsTitleAndStatistics)
   EXPECT_EQ(plot.Statistics,
             (PlotStatistics{"EMv", "u= 30.000", "s= 15.811", "", "", "", "Corr(s1, x)", "r= 0.3000", ""}));
   EXPECT_TRUE(plot.StatisticsPanel);
-}
-
-TEST(ScatterPlot, OfTheSignalsTakesItsStatisticsFromTheMainWindow)
-{
-  SurveyState state = FiveSites();
-  state.Signals.LblCorr = "0.1234";
-  state.Signals.Rows[1].LblMu = "7.5";
-  const Plot plot = PlotOf(state, mnuSs1s2);
-  EXPECT_THAT(PlacesOn(&DrawPoint::X, plot), ElementsAre(-1, -0.5, 0, 0.5, 1));
-  EXPECT_EQ(plot.Labels, (AxisLabels{"2.00", "4.00", "6.00", "10.00", "30.00", "50.00"}));
-  EXPECT_EQ(plot.Statistics, (PlotStatistics{"EMv", "u= 30.000", "s= 15.811", "EMh", "u= 7.500", "s= 1.581",
-                                             "Corr(s1, s2)", "r= 0.1234", ""}));
-  EXPECT_EQ(plot.Title, "EMv versus EMh");
 }
 
 TEST(ScatterPlot, OfAConstantSignalHasItsSitesInTheMiddleAndNoCorrelation)
@@ -110,24 +79,6 @@ TEST(RsdPlot, IsASquareOfTheLargestMagnitudeAtLeastThree)
   EXPECT_EQ(large.Title, "RSD Scatter Plot:  z1 versus z2");
   EXPECT_EQ(large.Statistics, (PlotStatistics{"z1", "u= 0.000", "s= 1.000", "z2", "u= 0.000", "s= 1.000",
                                               "Corr(s1, s2)", "r= 0.0000", ""}));
-}
-
-TEST(RsdPlot, HasARayFromTheCentreToEachHighlightedOutlier)
-{
-  SurveyState state = WithDecorrelated(FiveSites(), {-1, 0, 3, 2, 0}, {0, 2, 1.5, -2, 0});
-  state.SiteStatus[2] = site_status::Outlier;
-  state.SiteStatus[3] = site_status::Masked;
-  SurveyGraph graph = OpenGraph(state);
-  DitherGenerator dither;
-  ShowRsdPlot(graph, state, dither);
-  const auto& marks = graph.Shown.Picture.Marks;  // 8 of the box, then two plain dots
-  EXPECT_EQ(marks[10], DrawMark(DotMark{{0.5, -1}, Plain}));
-  EXPECT_EQ(marks[11], DrawMark(LineMark{{0, 0}, {0.5, -1}, {QBColor(4), 1}}));
-  EXPECT_EQ(marks[12], DrawMark(DotMark{{0.5, -1}, {QBColor(4), 4}}));
-  SetHLOps(graph, false, true);
-  ShowRsdPlot(graph, state, dither);
-  EXPECT_THAT(DotPens(graph.Shown), Each(Plain));
-  EXPECT_EQ(Only<LineMark>(graph.Shown.Picture).size(), 6);
 }
 
 TEST(DitherPlot, SpreadsOneSignalOnABandAnewEachTime)

@@ -1,11 +1,8 @@
 #include "render/picture_file.h"
 
-#include "support/files.h"
-#include "support/refusals.h"
-#include "support/temporary_directory.h"
+#include "support/testing.h"
 
 #include <QImage>
-#include <gtest/gtest.h>
 
 namespace veln {
 namespace {

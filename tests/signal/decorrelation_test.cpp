@@ -1,22 +1,11 @@
 #include "signal/decorrelation.h"
 
 #include "signal/outlier_list.h"
-#include "signal/sig_decorr_form.h"
-#include "support/refusals.h"
 #include "support/surveys.h"
-
-#include <gmock/gmock.h>
-
-#include <algorithm>
-#include <cmath>
-#include <numeric>
-#include <vector>
+#include "support/testing.h"
 
 namespace veln {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 /// 0.707107 stands for 1 / sqrt(2), so that z1 and z2 are too wide by this factor, about 1.00000031.
 const double Widening = 0.707107 * std::sqrt(2.0);
@@ -140,40 +129,6 @@ TEST(Decorrelation, RefusalNamesTheCauseAndLeavesTheRecordWhole)
   EXPECT_THAT(refusal(), HasSubstr("\"EMv\" is constant"));
   SurveyState empty;
   EXPECT_NE(WholeRefusalOf(empty, [&empty] { DecorrelateSignals(empty, {}); }), "not refused");
-}
-
-TEST(SigDecorrForm, BarsHoldEachOtherBack)
-{
-  SigDecorrForm form;
-  MoveMaskingLevel(form, 455);
-  EXPECT_EQ(form.Levels.Masking, 450);
-  EXPECT_EQ(form.Label11, "Attention: Masking STD level can not be set higher than Outlier STD level");
-  MoveMaskingLevel(form, 450);
-  EXPECT_EQ(form.Label11, "");
-  MoveMaskingLevel(form, 320);
-  MoveOutlierLevel(form, 315);
-  EXPECT_EQ(form.Levels.Outlier, 320);
-  EXPECT_EQ(form.Label11, "Attention: Outlier STD level can not be set lower than Masking STD level");
-  MoveOutlierLevel(form, 600);
-  EXPECT_EQ(form.Label11, "");
-  EXPECT_EQ(LevelText(form.Levels.Outlier), "6.00");
-}
-
-TEST(SigDecorrForm, ShowsResultsAndReopensAtTheLevelsOfTheLastRun)
-{
-  SurveyState state = FiveDeviations();
-  for (const DecorrelationLevels levels : {DecorrelationLevels{500, 550}, DecorrelationLevels{300, 320}}) {
-    SigDecorrForm form;
-    form.Levels = levels;
-    PerformDecorrelation(form, state);
-    EXPECT_THAT((std::vector{form.Label3, form.Label4, form.Label5}),
-                ElementsAre("2", levels.Outlier == 550 ? "0" : "2", "0"));
-    EXPECT_EQ(form.Command3Visible, levels.Outlier < 500);
-    const SigDecorrForm reopened = LoadSigDecorrForm(state);
-    EXPECT_EQ(reopened.Levels.Masking, levels.Masking);
-    EXPECT_EQ(reopened.Levels.Outlier, levels.Outlier);
-    EXPECT_FALSE(reopened.ResultsVisible);
-  }
 }
 
 TEST(OutlierList, TellsOutliersAloneInSurveyOrder)

@@ -1,17 +1,10 @@
 #include "signal/edge_buffer.h"
 
+#include "support/testing.h"
 #include "workspace/survey_state.h"
-
-#include <gmock/gmock.h>
-
-#include <cstddef>
-#include <vector>
 
 namespace veln {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 /// Sites at these places along the x axis, one row after the other.
 SurveyState RowsAlongX(const std::vector<std::vector<double>>& rows)

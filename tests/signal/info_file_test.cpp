@@ -1,13 +1,9 @@
 #include "signal/info_file.h"
 
-#include <gmock/gmock.h>
-
-#include <string>
+#include "support/testing.h"
 
 namespace veln {
 namespace {
-
-using testing::HasSubstr;
 
 const std::string Blank = "   \r\n";
 

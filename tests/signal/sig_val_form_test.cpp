@@ -1,10 +1,7 @@
 #include "signal/sig_val_form.h"
 
 #include "support/surveys.h"
-
-#include <gtest/gtest.h>
-
-#include <string>
+#include "support/testing.h"
 
 namespace veln {
 namespace {
@@ -26,30 +23,28 @@ void ExpectTransectOptions(const SigValForm& form, bool enabled)
 
 TEST(SigValForm, OpensOnDeletionWithOutliersAndOnAcceptanceWithout)
 {
-  const SurveyState state = SurveyWith(TransectSurvey(5, 12), "1");
-  SigValForm form = LoadSigValForm(state);
+  const auto texts = [](const SigValForm& form) {
+    return std::string(form.Option2Caption()) + "|" + form.Option2ToolTip() + "|" + form.Command2Caption() +
+           "|" + form.Command2ToolTip();
+  };
+  SigValForm form = LoadSigValForm(SurveyWith(TransectSurvey(5, 12), "1"));
   EXPECT_TRUE(form.Option1Enabled && form.Option1 && !form.Option2);
   ExpectTransectOptions(form, false);
   EXPECT_EQ(form.LblRC, "Row Count = n/a");
-  EXPECT_STREQ(form.Option2Caption(), "mask all outliers and accept current signal data configuration");
-  EXPECT_STREQ(form.Option2ToolTip(),
-               " indicates that all outlier sites should be masked (but not deleted) ");
-  EXPECT_STREQ(form.Command2Caption(), "Invoke Validation");
-  EXPECT_STREQ(form.Command2ToolTip(),
-               " perform the validation actions selected above on the decorrelated signal data ");
-  ChooseAcceptance(form, state);
-  EXPECT_TRUE(form.Option1Enabled && !form.Option1 && form.Option2);
+  EXPECT_EQ(texts(form),
+            "mask all outliers and accept current signal data configuration|"
+            " indicates that all outlier sites should be masked (but not deleted) |Invoke Validation|"
+            " perform the validation actions selected above on the decorrelated signal data ");
 
   SurveyState grid = SurveyWith(GridSurvey(10, 5), "0");
   grid.SiteStatus[3] = site_status::Masked;  // no outlier
   form = LoadSigValForm(grid);
   EXPECT_TRUE(!form.Option1Enabled && !form.Option1 && form.Option2);
   ExpectTransectOptions(form, false);
-  EXPECT_STREQ(form.Option2Caption(),
-               "no outliers detected:  current signal data configuration can be accepted");
-  EXPECT_STREQ(form.Option2ToolTip(), "the current data configuration is acceptable");
-  EXPECT_STREQ(form.Command2Caption(), "Accept Configuration");
-  EXPECT_STREQ(form.Command2ToolTip(), "accept current data configuration and return to main program menu");
+  EXPECT_EQ(texts(form),
+            "no outliers detected:  current signal data configuration can be accepted|"
+            "the current data configuration is acceptable|Accept Configuration|"
+            "accept current data configuration and return to main program menu");
   ExpectTransectOptions(LoadSigValForm(SurveyWith(TransectSurvey(5, 12), "0")), true);
 }
 

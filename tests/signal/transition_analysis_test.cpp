@@ -1,17 +1,9 @@
 #include "signal/transition_analysis.h"
 
-#include <gmock/gmock.h>
-
-#include <algorithm>
-#include <cmath>
-#include <numeric>
-#include <vector>
+#include "support/testing.h"
 
 namespace veln {
 namespace {
-
-using testing::Each;
-using testing::ElementsAreArray;
 
 /// One row of sites 10 m apart with these z1.
 SurveyState RowOf(const std::vector<double>& z1)

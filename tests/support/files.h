@@ -30,6 +30,16 @@ inline void WriteText(const std::filesystem::path& path, const std::string& cont
   }
 }
 
+/// A text `count` times over.
+inline std::string Repeated(const std::string& text, int count)
+{
+  std::string all;
+  for (int i = 0; i < count; ++i) {
+    all += text;
+  }
+  return all;
+}
+
 /// All that lies under a directory at any depth, hidden names too: paths from there, sorted, "/" behind a
 /// directory.
 inline std::vector<std::string> ListFiles(const std::filesystem::path& directory)

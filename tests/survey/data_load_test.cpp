@@ -1,19 +1,9 @@
 #include "survey/data_load.h"
 
-#include "support/refusals.h"
-
-#include <gmock/gmock.h>
-
-#include <cmath>
-#include <string>
-#include <utility>
-#include <vector>
+#include "support/testing.h"
 
 namespace veln {
 namespace {
-
-using testing::ElementsAre;
-using testing::Pair;
 
 constexpr const char* TooMany =
     "Error!  Your file contains more than 30,000 records.\nData import process has been aborted!";
@@ -42,11 +32,7 @@ constexpr RecordLayout WithRow{.Transect = true};
 /// `count` lines alike.
 std::string Lines(int count, const std::string& line)
 {
-  std::string text;
-  for (int i = 0; i < count; ++i) {
-    text += line + "\n";
-  }
-  return text;
+  return Repeated(line + "\n", count);
 }
 
 /// 50 lines alike but for one, counted from 1.
@@ -160,17 +146,6 @@ TEST(DataLoad, RowsLieInOneToTwoHundredAndFiftyAndNeverFall)
   EXPECT_EQ(Fault(rows("1", "2", "251"), WithRow), BadRows);
   EXPECT_EQ(Fault(rows("251", "251", "251"), WithRow), BadRows);
   EXPECT_EQ(DataLoad(rows("1", "5", "250"), WithRow, false, {}).RowNumber.back(), 250);
-}
-
-TEST(DataLoad, ProgressTellsEveryHundredthAndTheEndOfEachPass)
-{
-  std::vector<std::pair<ImportPass, int>> told;
-  DataLoad(Lines(230, "1 2 3"), Plain, false,
-           [&told](ImportPass pass, int count) { told.emplace_back(pass, count); });
-  using enum ImportPass;
-  EXPECT_THAT(told, ElementsAre(Pair(Scanning, 0), Pair(Scanning, 100), Pair(Scanning, 200),
-                                Pair(Scanning, 230), Pair(Importing, 0), Pair(Importing, 100),
-                                Pair(Importing, 200), Pair(Importing, 230)));
 }
 
 }  // namespace

@@ -1,15 +1,9 @@
 #include "survey/raw_items.h"
 
-#include <gmock/gmock.h>
-
-#include <string>
-#include <vector>
+#include "support/testing.h"
 
 namespace veln {
 namespace {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
 
 std::vector<std::string> Items(std::string_view content)
 {

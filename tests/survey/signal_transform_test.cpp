@@ -1,11 +1,7 @@
 #include "survey/signal_transform.h"
 
-#include "support/refusals.h"
 #include "support/surveys.h"
-
-#include <gmock/gmock.h>
-
-#include <cmath>
+#include "support/testing.h"
 
 namespace veln {
 namespace {
@@ -25,15 +21,18 @@ std::string RefusalWithLabels(SurveyState& state, const BasicStatsForm& form)
 
 TEST(SignalTransform, FormOffersWhatTheSignalsAllow)
 {
+  const auto offered = [](const SurveyState& state) {
+    const BasicStatsForm form = LoadBasicStatsForm(state);
+    EXPECT_FALSE(form.Check1 || form.Check2 || form.Check3 || form.Check4);
+    return std::vector{form.Check1Enabled, form.Check2Enabled, form.Check3Enabled, form.Check4Enabled,
+                       form.Text2Visible};
+  };
   SurveyState state = ImportedSurvey(GridSurvey(10, 5));
+  EXPECT_THAT(offered(state), ElementsAre(true, false, false, true, true));
   BasicStatsForm form = LoadBasicStatsForm(state);
-  EXPECT_TRUE(form.Check1Enabled && !form.Check2Enabled && !form.Check3Enabled && form.Check4Enabled);
-  EXPECT_TRUE(form.Text2Visible);
-  EXPECT_FALSE(form.Check1 || form.Check2 || form.Check3 || form.Check4);
   form.Check1 = form.Check4 = true;
   ComputeSignals(state, form);
-  form = LoadBasicStatsForm(state);
-  EXPECT_TRUE(!form.Check1Enabled && form.Check2Enabled && form.Check3Enabled && !form.Check4Enabled);
+  EXPECT_THAT(offered(state), ElementsAre(false, true, true, false, true));
   EXPECT_FALSE(LoadBasicStatsForm(ImportedSurvey(GridSurvey(10, 5, 1))).Text2Visible);
 }
 
@@ -65,30 +64,16 @@ TEST(SignalTransform, LogAndScaleInOneStepAddTheLogarithmOfTheFactor)
   EXPECT_EQ(state.Signals.Rows[0].LblMu, before.Signals.Rows[0].LblMu);
 }
 
-TEST(SignalTransform, NothingCheckedTakesTheLabelsAlone)
-{
-  SurveyState state = ImportedSurvey(GridSurvey(10, 5));
-  SurveyState expected = state;
-  BasicStatsForm form = LoadBasicStatsForm(state);
-  form.Labels = {"one", "two"};
-  ComputeSignals(state, form);
-  expected.SignalLabel = form.Labels;
-  expected.Signals.Rows[0].LblNm = "one";
-  expected.Signals.Rows[1].LblNm = "two";
-  EXPECT_TRUE(state == expected);
-}
-
 TEST(SignalTransform, RefusalLetsTheLabelsStandAndNothingElse)
 {
-  SurveyState state = ImportedSurvey(GridSurvey(10, 5));
-  BasicStatsForm form = LoadBasicStatsForm(state);
-  form.Labels = {"one", "two"};
-  form.Check1 = form.Check4 = true;
-  state.Signal2[49] = 0;
-  EXPECT_EQ(RefusalWithLabels(state, form), NonPositive);
-  state.Signal2[49] = 1;
-  state.Signal1[0] = -1;
-  EXPECT_EQ(RefusalWithLabels(state, form), NonPositive);
+  for (const auto signal : {&SurveyState::Signal1, &SurveyState::Signal2}) {
+    SurveyState state = ImportedSurvey(GridSurvey(10, 5));
+    BasicStatsForm form = LoadBasicStatsForm(state);
+    form.Labels = {"one", "two"};
+    form.Check1 = form.Check4 = true;
+    (state.*signal)[49] = 0;
+    EXPECT_EQ(RefusalWithLabels(state, form), NonPositive);
+  }
 }
 
 TEST(SignalTransform, ValuesThatLeaveTheDoublesAreRefused)
@@ -98,7 +83,7 @@ TEST(SignalTransform, ValuesThatLeaveTheDoublesAreRefused)
     BasicStatsForm form = LoadBasicStatsForm(state);
     form.Check3 = true;
     state.Signal1[3] = value;
-    EXPECT_THAT(RefusalWithLabels(state, form), testing::StartsWith("Error!  The changed signal data"));
+    EXPECT_THAT(RefusalWithLabels(state, form), StartsWith("Error!  The changed signal data"));
   }
   // Each column can be described, the correlation of the two can't.
   RawSurvey large = GridSurvey(10, 5);
@@ -107,7 +92,7 @@ TEST(SignalTransform, ValuesThatLeaveTheDoublesAreRefused)
   ASSERT_NE(state.Signals.LblCorr, "");
   BasicStatsForm form = LoadBasicStatsForm(state);
   form.Check3 = true;
-  EXPECT_THAT(RefusalWithLabels(state, form), testing::StartsWith("Error!  The changed signal data"));
+  EXPECT_THAT(RefusalWithLabels(state, form), StartsWith("Error!  The changed signal data"));
 }
 
 TEST(SignalTransform, IsClosedOnceTheSignalsAreDecorrelated)

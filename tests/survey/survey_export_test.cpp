@@ -1,19 +1,10 @@
 #include "survey/survey_export.h"
 
-#include "support/files.h"
-#include "support/refusals.h"
 #include "support/surveys.h"
-#include "support/temporary_directory.h"
-
-#include <gmock/gmock.h>
-
-#include <string>
-#include <vector>
+#include "support/testing.h"
 
 namespace veln {
 namespace {
-
-using testing::ElementsAre;
 
 /// Two sites with values that meet the rounding of each column.
 SurveyState TwoSites(const char* surveyType, int signals)
@@ -37,36 +28,25 @@ SurveyState TwoSites(const char* surveyType, int signals)
   return state;
 }
 
-TEST(SurveyExport, TransectWithTwoSignalsHasNineColumns)
+TEST(SurveyExport, HasRowNumbersInATransectAndTwoMoreColumnsForASecondSignal)
 {
+  const std::string twoSignals = "\"log(EMv)\",\"log(EMh)\",\"1st-PCS\",\"2nd-PCS\"\r\n";
   EXPECT_EQ(ComposeSurveyExport(TwoSites("Transect", 2)),
-            "2,4,\"T\",\"log\"\r\n"
-            "\"log(EMv)\",\"log(EMh)\",\"1st-PCS\",\"2nd-PCS\"\r\n"
-            " 1    3    0    345.1    20    .5   -.25    0    1.23457 \r\n"
-            "-7    250    7    1234.5   -1234.567891    2    12.34568    0   -3 \r\n");
-}
-
-TEST(SurveyExport, GridWithTwoSignalsHasEightColumns)
-{
+            "2,4,\"T\",\"log\"\r\n" + twoSignals +
+                " 1    3    0    345.1    20    .5   -.25    0    1.23457 \r\n"
+                "-7    250    7    1234.5   -1234.567891    2    12.34568    0   -3 \r\n");
   EXPECT_EQ(ComposeSurveyExport(TwoSites("Grid", 2)),
-            "2,4,\"G\",\"log\"\r\n"
-            "\"log(EMv)\",\"log(EMh)\",\"1st-PCS\",\"2nd-PCS\"\r\n"
-            " 1    0    345.1    20    .5   -.25    0    1.23457 \r\n"
-            "-7    7    1234.5   -1234.567891    2    12.34568    0   -3 \r\n");
-}
-
-TEST(SurveyExport, OneSignalHasSevenColumnsInATransectAndSixInAGrid)
-{
-  SurveyState state = TwoSites("Transect", 1);
-  state.SignalTransformText = "none";
-  EXPECT_EQ(ComposeSurveyExport(state),
-            "2,3,\"T\",\"none\"\r\n"
-            "\"log(EMv)\",\"1st-PCS\"\r\n"
+            "2,4,\"G\",\"log\"\r\n" + twoSignals +
+                " 1    0    345.1    20    .5   -.25    0    1.23457 \r\n"
+                "-7    7    1234.5   -1234.567891    2    12.34568    0   -3 \r\n");
+  SurveyState untransformed = TwoSites("Transect", 1);
+  untransformed.SignalTransformText = "none";
+  EXPECT_EQ(ComposeSurveyExport(untransformed),
+            "2,3,\"T\",\"none\"\r\n\"log(EMv)\",\"1st-PCS\"\r\n"
             " 1    3    0    345.1    20    .5    0 \r\n"
             "-7    250    7    1234.5   -1234.567891    2    0 \r\n");
   EXPECT_EQ(ComposeSurveyExport(TwoSites("Grid", 1)),
-            "2,3,\"G\",\"log\"\r\n"
-            "\"log(EMv)\",\"1st-PCS\"\r\n"
+            "2,3,\"G\",\"log\"\r\n\"log(EMv)\",\"1st-PCS\"\r\n"
             " 1    0    345.1    20    .5    0 \r\n"
             "-7    7    1234.5   -1234.567891    2    0 \r\n");
 }
@@ -83,32 +63,6 @@ TEST(SurveyExport, ProgressStepsAreWiderForAGridWithOneSignal)
   EXPECT_THAT(told(GridSurvey(25, 10, 1)), ElementsAre(100, 200));
   EXPECT_THAT(told(GridSurvey(10, 5, 2)), ElementsAre(20, 40));
   EXPECT_THAT(told(TransectSurvey(5, 12, 1)), ElementsAre(20, 40, 60));
-}
-
-TEST(SurveyExport, IsWrittenAfreshEachTimeAndAFailureIsTold)
-{
-  const TemporaryDirectory directory;
-  SurveyState state = TwoSites("Grid", 1);
-  state.ProgramDir = directory.Path();
-  state.ProjectName = "farm";
-  state.FieldId = "ab12";
-  EXPECT_NE(RefusalOf([&] { MakeOutF(state); }), "not refused");
-  state.DesignCount = 1;
-  const auto path = directory / "data/farm/ab12data.svy";
-  WriteText(path, "older and longer " + std::string(1000, '.'));
-  const ExportResult result = MakeOutF(state);
-  EXPECT_TRUE(result.Written);
-  EXPECT_EQ(result.Path, path);
-  EXPECT_EQ(result.Label1, " 2 lines were successfully exported");
-  EXPECT_EQ(result.Label2, "ab12data.svy output signal data file created");
-  EXPECT_EQ(ReadText(path), ComposeSurveyExport(state));
-
-  std::filesystem::remove(path);
-  std::filesystem::create_directories(path / "in the way");
-  const ExportResult failed = MakeOutF(state);
-  EXPECT_FALSE(failed.Written);
-  EXPECT_THAT(failed.Reason, testing::HasSubstr("ab12data.svy"));
-  EXPECT_THAT(ListFiles(directory / "data/farm"), ElementsAre("ab12data.svy/", "ab12data.svy/in the way/"));
 }
 
 TEST(SurveyExport, TimerMakesTheFileOnceOnItsSecondTick)

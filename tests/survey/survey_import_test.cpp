@@ -1,19 +1,11 @@
 #include "survey/survey_import.h"
 
-#include "support/files.h"
-#include "support/refusals.h"
 #include "support/surveys.h"
-#include "support/temporary_directory.h"
+#include "support/testing.h"
 #include "survey/structure_form.h"
-
-#include <gmock/gmock.h>
-
-#include <algorithm>
 
 namespace veln {
 namespace {
-
-using testing::HasSubstr;
 
 class SurveyImport : public testing::Test {
  protected:

@@ -1,11 +1,6 @@
 #include "toolkit/editor_command.h"
 
-#include "support/files.h"
-#include "support/refusals.h"
-#include "support/temporary_directory.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 #include <cerrno>
 #include <chrono>
@@ -15,8 +10,6 @@
 namespace veln {
 
 namespace fs = std::filesystem;
-using testing::ElementsAre;
-using testing::HasSubstr;
 
 namespace {
 
@@ -37,8 +30,6 @@ std::string NotedArguments(const TemporaryDirectory& folder)
   }
   return ReadText(folder / "args");
 }
-
-}  // namespace
 
 TEST(EditorCommand, DocumentIsOneArgumentWhateverItsName)
 {
@@ -105,4 +96,5 @@ TEST(StartProgram, WhatCannotBeStartedIsToldInTheSystemsWords)
   EXPECT_THAT(RefusalOf([&] { StartProgram({""}); }), HasSubstr("No such file or directory"));
 }
 
+}  // namespace
 }  // namespace veln

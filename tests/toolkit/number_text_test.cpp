@@ -1,19 +1,10 @@
 #include "toolkit/number_text.h"
 
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
-#include <algorithm>
-#include <cmath>
-#include <cstdint>
 #include <cstdlib>
-#include <limits>
-#include <optional>
-#include <string>
-#include <string_view>
-#include <vector>
 
 namespace veln {
-
 namespace {
 
 constexpr double Infinity = std::numeric_limits<double>::infinity();
@@ -53,17 +44,15 @@ long Tenth(long value)
   return (value < 0 ? value - 5 : value + 5) / 10;
 }
 
-struct NumberCase {
+struct Case {
   double Value;
   std::string Text;
 };
 
 struct FormatCase {
   std::string Pattern;
-  std::vector<NumberCase> Cases;
+  std::vector<Case> Cases;
 };
-
-}  // namespace
 
 TEST(NumberText, EveryInt16HasItsDigitsInEveryForm)
 {
@@ -93,49 +82,37 @@ TEST(NumberText, EveryInt16InThousandthsRoundsAsInWholeNumbers)
   }
 }
 
-TEST(NumberText, GeneralFormKeepsAtMostFifteenDigits)
+TEST(NumberText, GeneralFormHasFifteenDigitsAndPlainDecimalsFifteenPlaces)
 {
-  const std::vector<NumberCase> cases = {
-      {0.0, "0"},
-      {-0.0, "0"},
-      {0.1 + 0.2, ".3"},
-      {-0.25, "-.25"},
-      {1.0 / 3, ".333333333333333"},
-      {2.0 / 3, ".666666666666667"},
-      {100.0 / 3, "33.3333333333333"},
-      {123456789.123456789, "123456789.123457"},
-      {0.99999999999999994, "1"},
-      {99999.9999999999, "99999.9999999999"},
-      {99999.99999999999, "100000"},
-  };
-  for (const NumberCase& number : cases) {
-    EXPECT_EQ(GeneralForm(number.Value), number.Text);
-  }
-}
-
-TEST(NumberText, PlainDecimalsEndAtFifteenPlacesOnBothSides)
-{
-  const std::vector<NumberCase> cases = {
-      {0.00001, ".00001"},
-      {0.012345678901234, ".012345678901234"},
-      {0.0123456789012345, "1.23456789012345E-02"},
-      {1.0 / 30, "3.33333333333333E-02"},
-      {1e-15, ".000000000000001"},
-      {1.5e-15, "1.5E-15"},
-      {-1e-16, "-1E-16"},
-      {1e-100, "1E-100"},
-      {Smallest, "4.94065645841247E-324"},
-      {2.2250738585072014e-308, "2.2250738585072E-308"},
-      {1e14, "100000000000000"},
-      {999999999999999, "999999999999999"},
-      {999999999999999.9, "1E+15"},
-      {1e15, "1E+15"},
-      {-1.5e15, "-1.5E+15"},
-      {1234567890123456, "1.23456789012346E+15"},
-      {1e100, "1E+100"},
-      {Largest, "1.79769313486232E+308"},
-  };
-  for (const NumberCase& number : cases) {
+  for (const Case& number : {Case{0.0, "0"},
+                             Case{-0.0, "0"},
+                             Case{0.1 + 0.2, ".3"},
+                             Case{-0.25, "-.25"},
+                             Case{1.0 / 3, ".333333333333333"},
+                             Case{2.0 / 3, ".666666666666667"},
+                             Case{100.0 / 3, "33.3333333333333"},
+                             Case{123456789.123456789, "123456789.123457"},
+                             Case{0.99999999999999994, "1"},
+                             Case{99999.9999999999, "99999.9999999999"},
+                             Case{99999.99999999999, "100000"},
+                             Case{0.00001, ".00001"},
+                             Case{0.012345678901234, ".012345678901234"},
+                             Case{0.0123456789012345, "1.23456789012345E-02"},
+                             Case{1.0 / 30, "3.33333333333333E-02"},
+                             Case{1e-15, ".000000000000001"},
+                             Case{1.5e-15, "1.5E-15"},
+                             Case{-1e-16, "-1E-16"},
+                             Case{1e-100, "1E-100"},
+                             Case{Smallest, "4.94065645841247E-324"},
+                             Case{2.2250738585072014e-308, "2.2250738585072E-308"},
+                             Case{1e14, "100000000000000"},
+                             Case{999999999999999, "999999999999999"},
+                             Case{999999999999999.9, "1E+15"},
+                             Case{1e15, "1E+15"},
+                             Case{-1.5e15, "-1.5E+15"},
+                             Case{1234567890123456, "1.23456789012346E+15"},
+                             Case{1e100, "1E+100"},
+                             Case{Largest, "1.79769313486232E+308"}}) {
     EXPECT_EQ(GeneralForm(number.Value), number.Text);
   }
 }
@@ -168,10 +145,9 @@ TEST(NumberText, PatternsRoundHalvesAwayFromZeroAndDropWhatIsNotNeeded)
       {"0.00###", {{2.5, "2.50"}, {2.000005, "2.00001"}, {2.000004, "2.00"}, {-17.123455, "-17.12346"}}},
       {"########0.0#####", {{12, "12.0"}, {12.25, "12.25"}, {651234.5678905, "651234.567891"}}},
       {"########0.0#####", {{1234567890.5, "1234567890.5"}, {123456789.1234567, "123456789.123457"}}},
-      {"########0.0###", {{4000000.00005, "4000000.0001"}, {651234.56785, "651234.5679"}, {0, "0.0"}}},
-  };
+      {"########0.0###", {{4000000.00005, "4000000.0001"}, {651234.56785, "651234.5679"}, {0, "0.0"}}}};
   for (const FormatCase& format : patterns) {
-    for (const NumberCase& number : format.Cases) {
+    for (const Case& number : format.Cases) {
       EXPECT_EQ(FormatNumber(number.Value, format.Pattern), number.Text) << format.Pattern;
       EXPECT_EQ(RoundByFormat(number.Value, format.Pattern), std::strtod(number.Text.c_str(), nullptr));
     }
@@ -200,25 +176,11 @@ TEST(NumberText, WhatRoundsToZeroHasNoMinusSign)
 
 TEST(NumberText, NumbersHaveSignDigitsPointAndExponent)
 {
-  const std::vector<NumberCase> cases = {
-      {1, "1"},
-      {1, "+1"},
-      {-1, "-1"},
-      {0.5, ".5"},
-      {5, "5."},
-      {-0.005, "-.5E-2"},
-      {1e5, "1e5"},
-      {1e5, "1E+05"},
-      {7, "0007"},
-      {0.1, "0.1"},
-      {250, "2.5E0002"},
-      {0, "-0"},
-      {0, "0E999"},
-      {0, "0.0E-99999999999999999999"},
-      {1, "0." + Zeros(399) + "1E400"},
-      {1, "1" + Zeros(400) + "E-400"},
-  };
-  for (const NumberCase& number : cases) {
+  for (const Case& number :
+       {Case{1, "1"}, Case{1, "+1"}, Case{-1, "-1"}, Case{0.5, ".5"}, Case{5, "5."}, Case{-0.005, "-.5E-2"},
+        Case{1e5, "1e5"}, Case{1e5, "1E+05"}, Case{7, "0007"}, Case{0.1, "0.1"}, Case{250, "2.5E0002"},
+        Case{0, "-0"}, Case{0, "0E999"}, Case{0, "0.0E-99999999999999999999"},
+        Case{1, "0." + Zeros(399) + "1E400"}, Case{1, "1" + Zeros(400) + "E-400"}}) {
     const std::optional<double> read = ParseNumber(number.Text);
     ASSERT_TRUE(read.has_value()) << number.Text;
     EXPECT_EQ(*read, number.Value) << number.Text;
@@ -279,4 +241,5 @@ TEST(NumberText, IntegersEndAtSixteenBits)
   }
 }
 
+}  // namespace
 }  // namespace veln

@@ -1,18 +1,11 @@
 #include "toolkit/rich_text.h"
 
-#include "support/files.h"
+#include "support/testing.h"
 #include "toolkit/refusal.h"
 
-#include <gtest/gtest.h>
-
-#include <filesystem>
-#include <optional>
 #include <random>
-#include <string>
-#include <vector>
 
 namespace veln {
-
 namespace {
 
 std::string InRtf(const std::string& body)
@@ -20,18 +13,8 @@ std::string InRtf(const std::string& body)
   return R"({\rtf1\ansi\fs20 )" + body + "}";
 }
 
-std::string Repeat(const std::string& piece, int times)
-{
-  std::string text;
-  for (int i = 0; i < times; ++i) {
-    text += piece;
-  }
-  return text;
-}
-
 /// The paragraphs outside tables in a form for the eye: "*" before an item of a list, "#" once a heading's
-/// level, bold runs in
-/// [], italic ones in //.
+/// level, bold runs in [], italic ones in //.
 std::string Shown(const std::string& body)
 {
   std::string shown;
@@ -74,21 +57,45 @@ std::vector<std::filesystem::path> HelpDocuments()
   return documents;
 }
 
-}  // namespace
-
-TEST(ReadRichText, ParagraphsEndAtParAndLineEndsOfTheFileMeanNothing)
+TEST(ReadRichText, ShowsItsParagraphs)
 {
-  EXPECT_EQ(Shown("one\n two\\par\r\nthree\\line four\\tab five\\\nsix"), "one two|three\nfour\tfive|six|");
-}
-
-TEST(ReadRichText, ParagraphsWithoutTextAreLeftOut)
-{
-  EXPECT_EQ(Shown(R"(\par one\par\par  \tab\par two\par\bullet\tab\par)"), "one|two|");
-}
-
-TEST(ReadRichText, BoldAndItalicLastToTheEndOfTheirGroup)
-{
-  EXPECT_EQ(Shown(R"(a{\b b{\i c}d\b0 e}f\i g\plain h)"), "a[b][/c/][d]ef/g/h|");
+  struct Case {
+    const char* What;
+    std::string Body, Paragraphs;
+  };
+  const Case cases[] = {
+      {"line ends of the file mean nothing", "one\n two\\par\r\nthree\\line four\\tab five\\\nsix",
+       "one two|three\nfour\tfive|six|"},
+      {"paragraphs without text are left out", R"(\par one\par\par  \tab\par two\par\bullet\tab\par)",
+       "one|two|"},
+      {"bold and italic last to the end of their group", R"(a{\b b{\i c}d\b0 e}f\i g\plain h)",
+       "a[b][/c/][d]ef/g/h|"},
+      {"over a body of 10 pt, headings of level 1 begin at 15 pt, of level 2 at 12 pt",
+       R"({\fs30 A\par}{\fs29 B\par}{\fs24 C\par}{\fs23 D\par}most of the text\par)",
+       "#A|##B|##C|###D|most of the text|"},
+      {"a large word or item is no heading",
+       R"({\fs40 one large} word in a line of the body's size\par{\fs40\bullet  item\par})",
+       "one large word in a line of the body's size|*item|"},
+      {"bullets in their several forms",
+       R"(\bullet\tab one\par\bullet  two\par{\pntext\f1\'b7\tab}three\par)"
+       R"({\listtext\f1\'b7\tab}{\b four}\par{\*\pn\pnlvlblt{\pntxtb\'b7}}\'95 )"
+       R"(five\par six \'b7 seven)",
+       "*one|*two|*three|*[four]|*five|six \u00B7 seven|"},
+      {"hex escapes are code page 1252", R"(\'80\'96\'e9\'FF\'d7)", "\u20AC\u2013\u00E9\u00FF\u00D7|"},
+      {"Unicode escapes skip their fallback", R"(a\u8730?b\u8730 ?c\u8730\'3fd)", "a\u221Ab\u221Ac\u221Ad|"},
+      {"a fallback of other lengths", R"({\uc0\u233}x{\uc4\u8730 sqrt}y\u-4064?z{\uc3\u233 ab}c)",
+       "\u00E9x\u221Ay\uF020z\u00E9c|"},
+      {"surrogates", R"(\u-10179?\u-8704?)", "\U0001F600|"},
+      {"punctuation", R"(\{\}\\\~\-\_\lquote\rquote\ldblquote\rdblquote\endash\emdash)",
+       "{}\\\u00A0\u00AD\u2011\u2018\u2019\u201C\u201D\u2013\u2014|"},
+      {"what is no text of the document",
+       R"({\fonttbl{\f0\fswiss )"
+       R"(Arial;}}{\colortbl;\red0;}{\stylesheet{Normal;}}{\info{\title No\par}})"
+       "{\\*\\generator {\\b No} \\'81\\cell;}{\\pict\\bin5 {{{\x01\\00ff}yes\\unknown12 !",
+       "yes!|"}};
+  for (const Case& c : cases) {
+    EXPECT_EQ(Shown(c.Body), c.Paragraphs) << c.What;
+  }
 }
 
 TEST(ReadRichText, SizeIsKeptInHalfPoints)
@@ -97,50 +104,6 @@ TEST(ReadRichText, SizeIsKeptInHalfPoints)
   const auto& runs = std::get<RichParagraph>(text.Blocks.at(0)).Runs;
   EXPECT_EQ(runs.at(0).HalfPoints, 20);
   EXPECT_EQ(runs.at(1).HalfPoints, 31);
-}
-
-TEST(ReadRichText, ParagraphsLargerThanTheBodyAreHeadings)
-{
-  // A body of 10 pt: level 1 from 15 pt, level 2 from 12 pt.
-  EXPECT_EQ(Shown(R"({\fs30 A\par}{\fs29 B\par}{\fs24 C\par}{\fs23 D\par}most of the text\par)"),
-            "#A|##B|##C|###D|most of the text|");
-  EXPECT_EQ(Shown(R"({\fs40 one large} word in a line of the body's size\par{\fs40\bullet  item\par})"),
-            "one large word in a line of the body's size|*item|");
-}
-
-TEST(ReadRichText, BulletsInTheirSeveralFormsMakeItems)
-{
-  EXPECT_EQ(Shown(R"(\bullet\tab one\par\bullet  two\par{\pntext\f1\'b7\tab}three\par)"
-                  R"({\listtext\f1\'b7\tab}{\b four}\par{\*\pn\pnlvlblt{\pntxtb\'b7}}\'95 )"
-                  R"(five\par six \'b7 seven)"),
-            "*one|*two|*three|*[four]|*five|six \u00B7 seven|");
-}
-
-TEST(ReadRichText, HexEscapesAreCodePage1252)
-{
-  EXPECT_EQ(Shown(R"(\'80\'96\'e9\'FF\'d7)"), "\u20AC\u2013\u00E9\u00FF\u00D7|");
-}
-
-TEST(ReadRichText, UnicodeEscapesSkipTheirFallback)
-{
-  EXPECT_EQ(Shown(R"(a\u8730?b\u8730 ?c\u8730\'3fd)"), "a\u221Ab\u221Ac\u221Ad|");
-  EXPECT_EQ(Shown(R"({\uc0\u233}x{\uc4\u8730 sqrt}y\u-4064?z{\uc3\u233 ab}c)"),
-            "\u00E9x\u221Ay\uF020z\u00E9c|");
-  EXPECT_EQ(Shown(R"(\u-10179?\u-8704?)"), "\U0001F600|");
-}
-
-TEST(ReadRichText, PunctuationIsRead)
-{
-  EXPECT_EQ(Shown(R"(\{\}\\\~\-\_\lquote\rquote\ldblquote\rdblquote\endash\emdash)"),
-            "{}\\\u00A0\u00AD\u2011\u2018\u2019\u201C\u201D\u2013\u2014|");
-}
-
-TEST(ReadRichText, WhatIsNoTextOfTheDocumentIsSkipped)
-{
-  EXPECT_EQ(Shown(R"({\fonttbl{\f0\fswiss )"
-                  R"(Arial;}}{\colortbl;\red0;}{\stylesheet{Normal;}}{\info{\title No\par}})"
-                  "{\\*\\generator {\\b No} \\'81\\cell;}{\\pict\\bin5 {{{\x01\\00ff}yes\\unknown12 !"),
-            "yes!|");
 }
 
 TEST(ReadRichText, TablesHoldRowsOfCells)
@@ -160,43 +123,20 @@ TEST(ReadRichText, TablesHoldRowsOfCells)
 
 TEST(ReadRichText, DamagedDocumentsAreRefused)
 {
-  for (const char* rtf : {"",
-                          "plain text",
-                          R"( {\rtf1 a})",
-                          R"({\rtfx a})",
-                          R"({\rtf1 a)",
-                          R"({\rtf1 {a})",
-                          R"({\rtf1 a}})",
-                          R"({\rtf1 a}{b})",
-                          R"({\rtf1 a}b)",
-                          R"({\rtf1 \)",
-                          R"({\rtf1 \')",
-                          R"({\rtf1 \'4)",
-                          R"({\rtf1 \'4})",
-                          R"({\rtf1 \'g0})",
-                          R"({\rtf1 \'+1})",
-                          R"({\rtf1 \'81})",
-                          R"({\rtf1 \'01})",
-                          R"({\rtf1 \u})",
-                          R"({\rtf1 \u65536?})",
-                          R"({\rtf1 \u-32769?})",
-                          R"({\rtf1 \u0?})",
-                          R"({\rtf1 \u-10179?})",
-                          R"({\rtf1 \u-10179?a})",
-                          R"({\rtf1 \u-8704?})",
-                          R"({\rtf1 \fs99999999999 a})",
-                          R"({\rtf1 \%})",
-                          R"({\rtf1 \bin9 a})",
-                          R"({\rtf1 \bin-1 a})",
-                          "{\\rtf1 a\x02}",
-                          "{\\rtf1 \xC3\xA9}",
-                          R"({\rtf1 \cell})",
-                          R"({\rtf1 \row})",
-                          R"({\rtf1 \trowd a\cell})"}) {
+  for (const char* rtf : {"", "plain text", R"( {\rtf1 a})", R"({\rtfx a})", R"({\rtf1 a)", R"({\rtf1 a}{b})",
+                          R"({\rtf1 a}b)", R"({\rtf1 \)", R"({\rtf1 \')", R"({\rtf1 \'4)"}) {
     EXPECT_TRUE(IsDamaged(rtf)) << rtf;
   }
+  for (const char* body :
+       {"{a",       "a}",           R"(\'4)",          R"(\'g0)",     R"(\'+1)",
+        R"(\'81)",  R"(\'01)",      R"(\u)",           R"(\u65536?)", R"(\u-32769?)",
+        R"(\u0?)",  R"(\u-10179?)", R"(\u-10179?a)",   R"(\u-8704?)", R"(\fs99999999999 a)",
+        R"(\%)",    R"(\bin9 a)",   R"(\bin-1 a)",     "a\x02",       "\xC3\xA9",
+        R"(\cell)", R"(\row)",      R"(\trowd a\cell)"}) {
+    EXPECT_TRUE(IsDamaged(InRtf(body))) << body;
+  }
   EXPECT_TRUE(IsDamaged(std::string("{\\rtf1 a\0b}", 11)));
-  EXPECT_TRUE(IsDamaged(R"({\rtf1 \)" + std::string(33, 'a') + "}"));
+  EXPECT_TRUE(IsDamaged(InRtf("\\" + std::string(33, 'a'))));
   EXPECT_FALSE(IsDamaged(std::string("{\\rtf1 a}\r\n\0", 12)));
 }
 
@@ -205,13 +145,13 @@ TEST(ReadRichText, TimeGrowsWithTheLengthAlone)
   // About half a megabyte of each: more than linear time would pass the test's limit, recursion would
   // overflow.
   constexpr int Many = 100'000;
-  const std::string nested = InRtf(Repeat(R"({\b)", Many) + " x" + Repeat("}", Many));
+  const std::string nested = InRtf(Repeated(R"({\b)", Many) + " x" + Repeated("}", Many));
   EXPECT_EQ(ReadRichText(nested).Blocks.size(), 1U);
-  EXPECT_TRUE(IsDamaged(InRtf(Repeat("{", Many))));
+  EXPECT_TRUE(IsDamaged(InRtf(Repeated("{", Many))));
   for (const char* piece :
        {R"({\b  })", R"(\bullet  )", R"(\bullet x\par )", R"(\trowd\cell\row )", R"(x\par )", R"(\'b7)",
         R"(\u8730?)", R"({\fs24 x}{\fs26 y})", R"({\pict x})", R"(\uc9\u65 )"}) {
-    EXPECT_FALSE(RichTextToHtml(ReadRichText(InRtf(Repeat(piece, Many)))).empty()) << piece;
+    EXPECT_FALSE(RichTextToHtml(ReadRichText(InRtf(Repeated(piece, Many)))).empty()) << piece;
   }
 }
 
@@ -299,4 +239,5 @@ TEST(HelpDocuments, ChangedAnywhereAreReadOrRefused)
   EXPECT_GT(read, 100);
 }
 
+}  // namespace
 }  // namespace veln

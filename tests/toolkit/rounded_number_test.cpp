@@ -1,10 +1,8 @@
 #include "toolkit/rounded_number.h"
 
+#include "support/testing.h"
 #include "toolkit/number_text.h"
 
-#include <gtest/gtest.h>
-
-#include <cmath>
 #include <random>
 
 namespace veln {

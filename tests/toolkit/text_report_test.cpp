@@ -1,8 +1,6 @@
 #include "toolkit/text_report.h"
 
-#include <gtest/gtest.h>
-
-#include <string>
+#include "support/testing.h"
 
 namespace veln {
 
@@ -38,15 +36,10 @@ TEST(TextReport, ColumnsCountCharactersNotBytes)
 
 TEST(TextReport, PrintZonesAreFourteenColumnsWide)
 {
-  const auto columnBehind = [](std::size_t length) {
-    return TextReport().Text(std::string(length, 'x')).NextZone().Content().size() + 1;
-  };
-  EXPECT_EQ(columnBehind(0), 15U);
-  EXPECT_EQ(columnBehind(4), 15U);
-  EXPECT_EQ(columnBehind(13), 15U);
-  EXPECT_EQ(columnBehind(14), 29U);
-  EXPECT_EQ(columnBehind(27), 29U);
-  EXPECT_EQ(columnBehind(28), 43U);
+  for (const auto& [length, column] :
+       {std::pair{0U, 15U}, {4U, 15U}, {13U, 15U}, {14U, 29U}, {27U, 29U}, {28U, 43U}}) {
+    EXPECT_EQ(TextReport().Text(std::string(length, 'x')).NextZone().Content().size() + 1, column);
+  }
 }
 
 TEST(TextReport, NumbersKeepTheirSignPlaceAndTrailingBlank)

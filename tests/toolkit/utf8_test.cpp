@@ -1,8 +1,6 @@
 #include "toolkit/utf8.h"
 
-#include <gtest/gtest.h>
-
-#include <string_view>
+#include "support/testing.h"
 
 namespace veln {
 

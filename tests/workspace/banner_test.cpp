@@ -1,6 +1,6 @@
 #include "workspace/banner.h"
 
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace veln {
 namespace {

@@ -1,12 +1,6 @@
 #include "workspace/exit_flow.h"
 
-#include "support/scripted_dialogs.h"
-
-#include <gtest/gtest.h>
-
-#include <deque>
-#include <string>
-#include <vector>
+#include "support/testing.h"
 
 namespace veln {
 

@@ -1,6 +1,6 @@
 #include "workspace/next_step.h"
 
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace veln {
 namespace {

@@ -1,18 +1,8 @@
 #include "workspace/output_view.h"
 
-#include "support/files.h"
-#include "support/refusals.h"
-#include "support/scripted_dialogs.h"
-#include "support/temporary_directory.h"
-
-#include <gmock/gmock.h>
-#include <gtest/gtest.h>
+#include "support/testing.h"
 
 namespace veln {
-
-using testing::ElementsAre;
-using testing::IsEmpty;
-
 namespace {
 
 SurveyState AcceptedField()
@@ -25,8 +15,6 @@ SurveyState AcceptedField()
   state.Menu.Apply(WorkflowEvent::ConfigurationAccepted);
   return state;
 }
-
-}  // namespace
 
 TEST(OutputView, DialogOffersTheFilesOfTheProjectAndOfTheField)
 {
@@ -49,55 +37,16 @@ TEST(OutputView, DialogOffersTheFilesOfTheProjectAndOfTheField)
 TEST(OutputView, TheEditorIsStartedOnTheChosenFile)
 {
   ScriptedDialogs dialogs;
-  dialogs.ChooseFile("/veln/data/north.farm/AB12 copy of info.txt");
-  ViewOutputFiles(AcceptedField(), dialogs);
-  EXPECT_THAT(dialogs.Said,
-              ElementsAre("open: File View", "shell: [gedit] [/veln/data/north.farm/AB12 copy of info.txt]"));
-}
-
-TEST(OutputView, CancellingIsSilentAndAMissingEditorIsTold)
-{
-  ScriptedDialogs cancelled;
-  ViewOutputFiles(AcceptedField(), cancelled);
-  EXPECT_THAT(cancelled.Said, ElementsAre("open: File View"));
-
-  ScriptedDialogs failing;
-  failing.ChooseFile("/a.txt");
-  failing.FailShell("gedit: No such file or directory");
-  EXPECT_EQ(RefusalOf([&] { ViewOutputFiles(AcceptedField(), failing); }),
-            "gedit: No such file or directory");
-}
-
-TEST(OutputView, NothingIsOfferedBeforeAnAcceptedConfiguration)
-{
-  ScriptedDialogs dialogs;
   EXPECT_NE(RefusalOf([&] { ViewOutputFiles(SurveyState{}, dialogs); }), "not refused");
-  EXPECT_THAT(dialogs.Said, IsEmpty());
+  EXPECT_THAT(dialogs.Said, IsEmpty()) << "nothing is offered before an accepted configuration";
+  ViewOutputFiles(AcceptedField(), dialogs);  // cancelled
+  dialogs.ChooseFile("/farm/AB12 copy of info.txt");
+  dialogs.FailShell("gedit: No such file or directory");
+  EXPECT_EQ(RefusalOf([&] { ViewOutputFiles(AcceptedField(), dialogs); }),
+            "gedit: No such file or directory");
+  EXPECT_THAT(dialogs.Said, ElementsAre("open: File View", "open: File View",
+                                        "shell: [gedit] [/farm/AB12 copy of info.txt]"));
 }
 
-TEST(OutputView, HelpDocumentsAreReadFromTheirFolder)
-{
-  const TemporaryDirectory folder;
-  SurveyState state;
-  state.ProgramDir = folder.Path();
-  WriteText(folder / "helpdocs" / "hdoc11b.rtf", "{\\rtf1 rules}\r\n");
-  EXPECT_EQ(ReadHelpDocument(state, "hdoc11b"), "{\\rtf1 rules}\r\n");
-  EXPECT_EQ(RefusalOf([&] { ReadHelpDocument(state, "hdoc04"); }),
-            "Warning!  File resource error.  VELN can not find the following file:\n" +
-                (folder / "helpdocs/hdoc04.rtf").string());
-}
-
-TEST(OutputView, PrintingHelpOpensAScratchCopy)
-{
-  const TemporaryDirectory folder;
-  SurveyState state;
-  state.ProgramDir = folder.Path();
-  state.TextEditorPath = "xdg-open ";
-  ScriptedDialogs dialogs;
-  WriteText(folder / "helpdoc.rtf", "an older copy");
-  PrintHelpDocument(state, "{\\rtf1 help}", dialogs);
-  EXPECT_EQ(ReadText(folder / "helpdoc.rtf"), "{\\rtf1 help}");
-  EXPECT_THAT(dialogs.Said, ElementsAre("shell: [xdg-open] [" + (folder / "helpdoc.rtf").string() + "]"));
-}
-
+}  // namespace
 }  // namespace veln
