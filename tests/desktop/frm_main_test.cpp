@@ -179,6 +179,18 @@ TEST_F(FrmMain, RefusesToCloseAndAsksInPlaceOfIt)
               ElementsAre("ask: Do You Really Wish to Exit?", "ask: Do You Really Wish to Exit?"));
 }
 
+TEST_F(FrmMain, WarnsBeforeItEndsWithoutADesign)
+{
+  Set(AcceptedSurvey(GridSurvey(10, 8)));
+  Asked.Answer(false);
+  Choose("mnuExit");
+  EXPECT_EQ(Ended, 0);
+  EXPECT_THAT(Asked.Said,
+              ElementsAre("beep",
+                          "ask: Warning!  No sample designs have been created!  Do you still wish "
+                          "to exit?"));
+}
+
 TEST_F(FrmMain, WithADesignClosingOpensTheExportOnce)
 {
   Set(AcceptedSurvey(GridSurvey(10, 8)));
