@@ -108,14 +108,13 @@ QTableWidget* MakeTextTable(QWidget* parent, const char* name, const TextTable& 
 {
   auto* widget = new CopyableTable(parent);
   widget->setObjectName(name);
-  FillTextTable(*widget, table);
-  widget->setItemDelegate(new DecimalAligner(widget));
+  widget->setItemDelegate(new DecimalAligner(widget));  // columns get the width of its texts
   widget->verticalHeader()->hide();
   widget->verticalHeader()->setDefaultSectionSize(widget->fontMetrics().lineSpacing() + SmallGap);
   widget->setSelectionBehavior(QAbstractItemView::SelectRows);
   widget->setTabKeyNavigation(false);
   widget->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-  widget->resizeColumnsToContents();  // by the delegate's texts
+  FillTextTable(*widget, table);
   widget->horizontalHeader()->setStretchLastSection(true);
   widget->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
   widget->setSortingEnabled(true);
