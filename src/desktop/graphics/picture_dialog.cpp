@@ -81,7 +81,7 @@ PictureDialog::PictureDialog(Program& program, QWidget* owner, Picture picture, 
 
 std::size_t PictureDialog::Chosen() const
 {
-  const auto chosen = std::ranges::find_if(formats_, &QRadioButton::isChecked);
+  const auto* const chosen = std::ranges::find_if(formats_, &QRadioButton::isChecked);
   return static_cast<std::size_t>(chosen - formats_.begin());
 }
 
