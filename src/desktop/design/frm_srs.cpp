@@ -2,6 +2,7 @@
 
 #include "design/design_table.h"
 #include "design/survey_reduction.h"
+#include "desktop/choices.h"
 #include "desktop/controls.h"
 #include "desktop/design/frm_d_list.h"
 #include "desktop/design/frm_parse.h"
@@ -9,7 +10,6 @@
 #include "desktop/design/frm_srs_opt.h"
 #include "desktop/design/site_table.h"
 #include "desktop/drawing_view.h"
-#include "desktop/text_roles.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -26,18 +26,6 @@
 #include <QTableWidget>
 
 namespace veln {
-
-namespace {
-
-void ShowChoice(QAbstractButton& button, bool on, bool enabled)
-{
-  const QSignalBlocker quiet(button);
-  button.setChecked(on);
-  button.setEnabled(enabled);
-  SetRole(button, on ? TextRole::Chosen : TextRole::Normal);
-}
-
-}  // namespace
 
 void frmSRS::Act(const std::function<void(SrsForm&)>& action)
 {

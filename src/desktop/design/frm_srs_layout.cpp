@@ -1,6 +1,7 @@
 // What frmSRS is made of: its controls and menus, without their rules.
 #include "design/design_table.h"
 #include "design/survey_reduction.h"
+#include "desktop/choices.h"
 #include "desktop/controls.h"
 #include "desktop/design/frm_d_list.h"
 #include "desktop/design/frm_parse.h"
@@ -27,15 +28,6 @@
 namespace veln {
 
 namespace {
-
-QCheckBox* MakeCheck(QWidget* parent, const char* name, const QString& caption, const QString& toolTip)
-{
-  auto* check = new QCheckBox(caption, parent);
-  check->setObjectName(name);
-  check->setToolTip(toolTip);
-  check->setAccessibleName(WithoutKey(caption));
-  return check;
-}
 
 QAction* AddEntry(QMenu& menu, const char* name, const QString& caption)
 {

@@ -1,8 +1,8 @@
 #include "desktop/graphics/frm_pct.h"
 
+#include "desktop/choices.h"
 #include "desktop/controls.h"
 #include "desktop/design/frm_srs.h"
-#include "desktop/graphics/choices.h"
 #include "desktop/graphics/frm_svy_graph.h"
 
 #include <QHBoxLayout>

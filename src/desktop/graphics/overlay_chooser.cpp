@@ -1,7 +1,7 @@
 #include "desktop/graphics/overlay_chooser.h"
 
+#include "desktop/choices.h"
 #include "desktop/controls.h"
-#include "desktop/graphics/choices.h"
 #include "desktop/graphics/frm_svy_graph.h"
 
 #include <QCheckBox>

@@ -1,5 +1,4 @@
 target_sources(veln_desktop PRIVATE
-  ${CMAKE_CURRENT_SOURCE_DIR}/graphics/choices.cpp
   ${CMAKE_CURRENT_SOURCE_DIR}/graphics/frm_igc.cpp
   ${CMAKE_CURRENT_SOURCE_DIR}/graphics/frm_legend.cpp
   ${CMAKE_CURRENT_SOURCE_DIR}/graphics/frm_pct.cpp

@@ -1,6 +1,7 @@
 #include "desktop/signal/frm_sig_val.h"
 
 #include "desktop/busy_pointer.h"
+#include "desktop/choices.h"
 #include "desktop/controls.h"
 #include "desktop/signal/frm_sig_decorr.h"
 #include "desktop/text_roles.h"
@@ -11,51 +12,9 @@
 #include <QLabel>
 #include <QPushButton>
 #include <QRadioButton>
-#include <QSignalBlocker>
 #include <QVBoxLayout>
 
 namespace veln {
-
-namespace {
-
-QRadioButton* MakeOption(QWidget* parent, const char* name, const QString& caption, const QString& toolTip)
-{
-  auto* option = new QRadioButton(caption, parent);
-  option->setObjectName(name);
-  option->setToolTip(toolTip);
-  option->setAccessibleName(WithoutKey(caption));
-  return option;
-}
-
-QCheckBox* MakeCheck(QWidget* parent, const char* name, const QString& caption, const QString& toolTip)
-{
-  auto* check = new QCheckBox(caption, parent);
-  check->setObjectName(name);
-  check->setToolTip(toolTip);
-  check->setAccessibleName(WithoutKey(caption).trimmed());
-  return check;
-}
-
-void ShowEnabled(QAbstractButton& button, bool enabled)
-{
-  button.setEnabled(enabled);
-  SetRole(button, button.isChecked() ? TextRole::Chosen : TextRole::Normal);
-}
-
-void ShowChoice(QCheckBox& check, bool on, bool enabled)
-{
-  const QSignalBlocker quiet(check);
-  check.setChecked(on);
-  ShowEnabled(check, enabled);
-}
-
-void ShowChoice(QRadioButton& option, bool selected, bool enabled)
-{
-  ShowOption(option, selected);
-  ShowEnabled(option, enabled);
-}
-
-}  // namespace
 
 frmSigVal::frmSigVal(Program& program, QWidget* parent)
     : ChildWindow(program, parent, {Name, "Signal Validation", {1000, 750}, "hdoc10", MenuEntry::mnuSigV}),

@@ -1,6 +1,7 @@
 #include "desktop/survey/frm_structure.h"
 
 #include "desktop/busy_pointer.h"
+#include "desktop/choices.h"
 #include "desktop/controls.h"
 #include "desktop/survey/record_preview_table.h"
 #include "desktop/text_roles.h"
@@ -32,16 +33,6 @@ QLineEdit* MakeEdit(QWidget* parent, const char* name, const QString& toolTip)
   return edit;
 }
 
-template <class Button>
-Button* MakeChoice(QWidget* parent, const char* name, const QString& caption, const QString& toolTip)
-{
-  auto* button = new Button(caption, parent);
-  button->setObjectName(name);
-  button->setToolTip(toolTip);
-  button->setAccessibleName(WithoutKey(caption));
-  return button;
-}
-
 /// The longest line of the window, which tells how wide it is at least.
 QString LongestLine()
 {
@@ -65,13 +56,6 @@ QLabel* MakeParagraph(QWidget* parent, const char* name, const QString& text, co
   const int width = label->fontMetrics().horizontalAdvance(widest);
   label->setMinimumSize(width, label->heightForWidth(width));
   return label;
-}
-
-void ShowChoice(QAbstractButton& button, bool on, TextRole offRole)
-{
-  const QSignalBlocker quiet(button);
-  button.setChecked(on);
-  SetRole(button, on ? TextRole::Chosen : offRole);
 }
 
 QLabel* MakeProgressLabel(QWidget* parent, const char* name, const QString& text)
@@ -182,10 +166,9 @@ QGroupBox* frmStructure::MakeColumnPart()
           "columns are present in your file by checking the appropriate boxes.  ",
           LongestLine()),
       0, 0, 1, 3);
-  siteId_ = MakeChoice<QCheckBox>(frame, "Check1", "numeric site &identification code",
-                                  " indicates if sample site ID column is present in input file ");
-  secondSignal_ =
-      MakeChoice<QCheckBox>(frame, "Check2", "s2: (2nd &signal column)",
+  siteId_ = MakeCheck(frame, "Check1", "numeric site &identification code",
+                      " indicates if sample site ID column is present in input file ");
+  secondSignal_ = MakeCheck(frame, "Check2", "s2: (2nd &signal column)",
                             " indicates if a 2nd column of EM signal data is present in input file ");
   grid->addWidget(siteId_, 1, 0);
   grid->addWidget(secondSignal_, 2, 0);
@@ -239,8 +222,8 @@ QGroupBox* frmStructure::MakeLabelPart()
 
 void frmStructure::AddUnits(QGridLayout& grid, QWidget* frame)
 {
-  milli_ = MakeChoice<QCheckBox>(frame, "Check3", "&mS/m", " indicates data units are in mS/m ");
-  deci_ = MakeChoice<QCheckBox>(frame, "Check4", "&dS/m", " indicates data units are in dS/m or mS/cm ");
+  milli_ = MakeCheck(frame, "Check3", "&mS/m", " indicates data units are in mS/m ");
+  deci_ = MakeCheck(frame, "Check4", "&dS/m", " indicates data units are in dS/m or mS/cm ");
   grid.addWidget(milli_, 1, 2);
   grid.addWidget(deci_, 2, 2);
   for (const bool deciBox : {false, true}) {
@@ -256,8 +239,8 @@ void frmStructure::AddTransform(QGridLayout& grid, QWidget* frame)
   auto* choice = new QWidget(frame);
   auto* line = new QHBoxLayout(choice);
   line->setContentsMargins(0, 0, 0, 0);
-  logYes_ = MakeChoice<QRadioButton>(choice, "Option1", "&Yes", " apply natural log transform ");
-  logNo_ = MakeChoice<QRadioButton>(choice, "Option2", "&No", " do not apply natural log transform ");
+  logYes_ = MakeOption(choice, "Option1", "&Yes", " apply natural log transform ");
+  logNo_ = MakeOption(choice, "Option2", "&No", " do not apply natural log transform ");
   line->addWidget(MakeLine(choice, "Label10", "Perform natural log transform on input signal data?"));
   line->addWidget(logYes_);
   line->addWidget(logNo_);
@@ -355,10 +338,10 @@ void frmStructure::Mirror()
 {
   ShowChoice(*siteId_, form_.Check1, TextRole::Off);
   ShowChoice(*secondSignal_, form_.Check2, TextRole::Off);
-  ShowChoice(*milli_, !form_.Check4, TextRole::Normal);
-  ShowChoice(*deci_, form_.Check4, TextRole::Normal);
-  ShowChoice(*logYes_, form_.Option1, TextRole::Normal);
-  ShowChoice(*logNo_, !form_.Option1, TextRole::Normal);
+  ShowChoice(*milli_, !form_.Check4);
+  ShowChoice(*deci_, form_.Check4);
+  ShowChoice(*logYes_, form_.Option1);
+  ShowChoice(*logNo_, !form_.Option1);
   label2Caption_->setVisible(form_.Check2);
   label2_->setVisible(form_.Check2);
   rowColumn_->setVisible(form_.Transect);

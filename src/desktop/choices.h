@@ -1,5 +1,7 @@
 #pragma once
 
+#include "desktop/text_roles.h"
+
 #include <QString>
 
 class QAbstractButton;
@@ -15,7 +17,10 @@ QRadioButton* MakeOption(QWidget* parent, const char* name, const QString& capti
 
 QCheckBox* MakeCheck(QWidget* parent, const char* name, const QString& caption, const QString& toolTip = {});
 
-/// Shows a form's choice: one that is on has its own colour.
-void ShowChoice(QAbstractButton& button, bool on);
+/// Shows a form's choice: one that is on has its own colour, one that is off that of `offRole`.
+void ShowChoice(QAbstractButton& button, bool on, TextRole offRole = TextRole::Normal);
+
+/// Shows a form's choice and whether it can be made.
+void ShowChoice(QAbstractButton& button, bool on, bool enabled);
 
 }  // namespace veln

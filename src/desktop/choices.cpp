@@ -1,7 +1,6 @@
-#include "desktop/graphics/choices.h"
+#include "desktop/choices.h"
 
 #include "desktop/controls.h"
-#include "desktop/text_roles.h"
 
 #include <QCheckBox>
 #include <QRadioButton>
@@ -34,7 +33,7 @@ QCheckBox* MakeCheck(QWidget* parent, const char* name, const QString& caption, 
   return check;
 }
 
-void ShowChoice(QAbstractButton& button, bool on)
+void ShowChoice(QAbstractButton& button, bool on, TextRole offRole)
 {
   if (auto* option = dynamic_cast<QRadioButton*>(&button)) {
     ShowOption(*option, on);
@@ -42,7 +41,13 @@ void ShowChoice(QAbstractButton& button, bool on)
     const QSignalBlocker quiet(button);
     button.setChecked(on);
   }
-  SetRole(button, on ? TextRole::Chosen : TextRole::Normal);
+  SetRole(button, on ? TextRole::Chosen : offRole);
+}
+
+void ShowChoice(QAbstractButton& button, bool on, bool enabled)
+{
+  ShowChoice(button, on);
+  button.setEnabled(enabled);
 }
 
 }  // namespace veln
