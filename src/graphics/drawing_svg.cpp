@@ -1,6 +1,7 @@
 #include "graphics/drawing_svg.h"
 
 #include "graphics/mark_layers.h"
+#include "graphics/twip_surface.h"
 #include "toolkit/number_text.h"
 #include "toolkit/utf8.h"
 
@@ -21,9 +22,7 @@ namespace veln {
 
 namespace {
 
-constexpr double TwipsPerPixel = 15;
 constexpr double TwipsPerPoint = 20;
-constexpr double Far = 1E+6;  // twips, out of sight on every surface
 constexpr UnitPoint Nowhere{std::numeric_limits<std::int32_t>::min(), 0};
 
 void Append(std::string& text, std::int32_t number)
@@ -114,31 +113,6 @@ std::string Escaped(const std::string& text)
   }
   return escaped;
 }
-
-/// A surface in twips.
-struct TwipSurface {
-  explicit TwipSurface(const Drawing& drawing)
-      : Left(drawing.ScaleLeft),
-        Top(drawing.ScaleTop),
-        PerUnit(drawing.PixelWidth * TwipsPerPixel / drawing.ScaleWidth),
-        PixelHeight(std::round(drawing.PixelWidth * drawing.ScaleHeight / drawing.ScaleWidth)),
-        Width(static_cast<std::int32_t>(drawing.PixelWidth * TwipsPerPixel)),
-        Height(static_cast<std::int32_t>(PixelHeight * TwipsPerPixel))
-  {
-  }
-
-  /// Far places are drawn in to where they are still out of sight.
-  [[nodiscard]] UnitPoint At(DrawPoint point) const
-  {
-    const auto whole = [](double value) {
-      return static_cast<std::int32_t>(std::lround(std::isnan(value) ? Far : std::clamp(value, -Far, Far)));
-    };
-    return {whole((point.X - Left) * PerUnit), whole((point.Y - Top) * PerUnit)};
-  }
-
-  double Left, Top, PerUnit, PixelHeight;
-  std::int32_t Width, Height;
-};
 
 /// A command of a path with a place.
 struct PathWord {

@@ -1,13 +1,13 @@
 #include "render/layered_marks.h"
 
 #include "graphics/mark_layers.h"
+#include "graphics/twip_surface.h"
 #include "render/mark_painter.h"
 
 #include <QPainter>
 #include <QPainterPath>
 
 #include <algorithm>
-#include <cmath>
 #include <cstdint>
 #include <variant>
 #include <vector>
@@ -15,9 +15,6 @@
 namespace veln {
 
 namespace {
-
-constexpr double UnitsPerPixel = 15;  // twips of the drawing's own size
-constexpr double Far = 1E+6;          // units, out of sight on every surface
 
 /// Shapes of one pen.
 struct PenPath {
@@ -34,11 +31,9 @@ using Element = std::variant<Layer, const DrawMark*>;
 class LayerSorter {
  public:
   LayerSorter(const Drawing& drawing, const MarkPainter& paint)
-      : drawing_(drawing),
-        paint_(paint),
-        perUnit_(drawing.PixelWidth * UnitsPerPixel / drawing.ScaleWidth),
-        layers_(Whole(drawing.ScaleWidth * perUnit_), Whole(drawing.ScaleHeight * perUnit_),
-                static_cast<std::int32_t>(UnitsPerPixel))
+      : paint_(paint),
+        surface_(drawing),
+        layers_(surface_.Width, surface_.Height, static_cast<std::int32_t>(TwipsPerPixel))
   {
   }
 
@@ -73,9 +68,9 @@ class LayerSorter {
 
   QPainterPath* PathFor(DrawPoint from, DrawPoint to, const Pen& pen)
   {
-    const UnitPoint first = At(from);
-    const UnitPoint last = At(to);
-    const double width = pen.Width * UnitsPerPixel;
+    const UnitPoint first = surface_.At(from);
+    const UnitPoint last = surface_.At(to);
+    const double width = pen.Width * TwipsPerPixel;
     if (!layers_.Touches(first, last, width)) {
       return nullptr;
     }
@@ -91,19 +86,8 @@ class LayerSorter {
     return &found->Path;
   }
 
-  static std::int32_t Whole(double value)
-  {
-    return static_cast<std::int32_t>(std::lround(std::isnan(value) ? Far : std::clamp(value, -Far, Far)));
-  }
-  [[nodiscard]] UnitPoint At(DrawPoint point) const
-  {
-    return {Whole((point.X - drawing_.ScaleLeft) * perUnit_),
-            Whole((point.Y - drawing_.ScaleTop) * perUnit_)};
-  }
-
-  const Drawing& drawing_;
   const MarkPainter& paint_;
-  double perUnit_;
+  TwipSurface surface_;
   MarkLayers layers_;
   std::vector<Element> elements_;
 };
