@@ -1,8 +1,8 @@
 #include "cli/survey_pictures.h"
 
 #include "cli/console_dialogs.h"
+#include "forms/igc_form.h"
 #include "graphics/drawing_svg.h"
-#include "graphics/igc_form.h"
 #include "graphics/plot_page.h"
 #include "graphics/site_map.h"
 #include "toolkit/refusal.h"

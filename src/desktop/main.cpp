@@ -1,5 +1,5 @@
-#include "desktop/program.h"
-#include "desktop/qt_dialogs.h"
+#include "desktop/program/program.h"
+#include "desktop/program/qt_dialogs.h"
 #include "desktop/workspace/frm_main.h"
 #include "toolkit/clock.h"
 #include "workspace/settings.h"

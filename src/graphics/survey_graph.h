@@ -3,7 +3,7 @@
 #include "graphics/dither.h"
 #include "graphics/plot.h"
 #include "graphics/plot_options.h"
-#include "signal/row_table.h"
+#include "survey/row_table.h"
 #include "survey/statistics.h"
 #include "toolkit/dialogs.h"
 #include "workspace/survey_state.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "signal/row_table.h"
+#include "survey/row_table.h"
 #include "workspace/survey_state.h"
 
 #include <vector>

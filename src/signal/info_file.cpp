@@ -1,6 +1,6 @@
 #include "signal/info_file.h"
 
-#include "signal/row_table.h"
+#include "survey/row_table.h"
 #include "toolkit/number_text.h"
 #include "toolkit/text_report.h"
 #include "toolkit/utf8.h"

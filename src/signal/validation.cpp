@@ -2,9 +2,9 @@
 
 #include "signal/edge_buffer.h"
 #include "signal/info_file.h"
-#include "signal/row_table.h"
 #include "signal/transition_analysis.h"
 #include "survey/field_extent.h"
+#include "survey/row_table.h"
 #include "survey/statistics.h"
 #include "toolkit/file_store.h"
 #include "toolkit/number_text.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/program.h"
+#include "desktop/program/program.h"
 #include "desktop/workspace/frm_main.h"
 #include "support/testing.h"
 

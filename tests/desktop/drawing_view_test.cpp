@@ -1,4 +1,4 @@
-#include "desktop/drawing_view.h"
+#include "desktop/parts/drawing_view.h"
 
 #include "desktop/desktop_fixture.h"
 

@@ -1,5 +1,5 @@
 #include "desktop/desktop_fixture.h"
-#include "desktop/help_request.h"
+#include "desktop/program/help_request.h"
 #include "desktop/workspace/frm_about.h"
 
 #include <QPushButton>

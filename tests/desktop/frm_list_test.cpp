@@ -1,7 +1,7 @@
 #include "desktop/signal/frm_list.h"
 
 #include "desktop/desktop_fixture.h"
-#include "desktop/text_table.h"
+#include "desktop/parts/text_table.h"
 #include "support/surveys.h"
 
 #include <QClipboard>

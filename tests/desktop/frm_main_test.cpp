@@ -1,6 +1,6 @@
 #include "desktop/desktop_fixture.h"
+#include "forms/next_step.h"
 #include "support/surveys.h"
-#include "workspace/next_step.h"
 
 #include <QDropEvent>
 #include <QMimeData>

@@ -1,7 +1,7 @@
 #include "desktop/design/frm_parse.h"
 
-#include "desktop/controls.h"
 #include "desktop/design_windows.h"
+#include "desktop/parts/controls.h"
 
 #include <QPlainTextEdit>
 #include <QPrinter>

@@ -3,9 +3,9 @@
 #include "desktop/desktop_fixture.h"
 #include "desktop/graphics/frm_svy_graph.h"
 #include "desktop/graphics/plot_pane.h"
-#include "signal/row_table.h"
 #include "signal/transition_analysis.h"
 #include "support/surveys.h"
+#include "survey/row_table.h"
 
 #include <QAbstractButton>
 #include <QImage>

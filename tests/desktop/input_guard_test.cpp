@@ -1,4 +1,4 @@
-#include "desktop/input_guard.h"
+#include "desktop/parts/input_guard.h"
 
 #include <QTest>
 #include <QtWidgets>

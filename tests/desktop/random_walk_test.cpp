@@ -1,13 +1,13 @@
 // Windows opened, used and closed at random, as far as the menus allow: after every step they agree with the
 // record.
 
-#include "desktop/child_window.h"
 #include "desktop/design/frm_d_list.h"
 #include "desktop/design/frm_mask.h"
 #include "desktop/design/frm_parse.h"
 #include "desktop/design/frm_srs.h"
 #include "desktop/design/frm_srs_opt.h"
 #include "desktop/desktop_fixture.h"
+#include "desktop/program/child_window.h"
 #include "desktop/signal/frm_sig_decorr.h"
 #include "desktop/survey/frm_structure.h"
 #include "support/surveys.h"

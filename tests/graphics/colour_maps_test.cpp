@@ -1,5 +1,5 @@
+#include "forms/igc_form.h"
 #include "graph_fields.h"
-#include "graphics/igc_form.h"
 
 namespace veln {
 namespace {

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "graphics/survey_graph.h"
-#include "signal/row_table.h"
 #include "signal/transition_analysis.h"
 #include "support/surveys.h"
 #include "support/testing.h"
+#include "survey/row_table.h"
 
 namespace veln {
 

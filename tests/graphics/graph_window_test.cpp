@@ -1,6 +1,6 @@
+#include "forms/igc_form.h"
+#include "forms/pct_form.h"
 #include "graph_fields.h"
-#include "graphics/igc_form.h"
-#include "graphics/pct_form.h"
 #include "graphics/plot_statistics.h"
 #include "graphics/site_text.h"
 

@@ -1,6 +1,6 @@
 #include "signal/decorrelation.h"
 
-#include "signal/outlier_list.h"
+#include "forms/outlier_list.h"
 #include "support/surveys.h"
 #include "support/testing.h"
 

@@ -1,8 +1,8 @@
 #include "survey/survey_import.h"
 
+#include "forms/structure_form.h"
 #include "support/surveys.h"
 #include "support/testing.h"
-#include "survey/structure_form.h"
 
 namespace veln {
 namespace {

@@ -1,9 +1,9 @@
 #include "desktop/design/frm_d_list.h"
 
 #include "design/design_levels.h"
-#include "desktop/controls.h"
 #include "desktop/design/frm_srs.h"
-#include "desktop/print_page.h"
+#include "desktop/parts/controls.h"
+#include "desktop/program/print_page.h"
 
 #include <QAction>
 #include <QFontDatabase>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "design/manual_design.h"
-#include "desktop/child_window.h"
+#include "desktop/program/child_window.h"
 
 class QCheckBox;
 class QLabel;

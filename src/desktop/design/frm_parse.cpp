@@ -1,8 +1,8 @@
 #include "desktop/design/frm_parse.h"
 
-#include "desktop/controls.h"
 #include "desktop/design/frm_srs.h"
-#include "desktop/text_roles.h"
+#include "desktop/parts/controls.h"
+#include "desktop/parts/text_roles.h"
 
 #include <QGridLayout>
 #include <QGroupBox>

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "design/survey_reduction.h"
-#include "desktop/child_window.h"
+#include "desktop/program/child_window.h"
 
 #include <array>
 

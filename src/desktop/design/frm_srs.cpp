@@ -2,14 +2,14 @@
 
 #include "design/design_table.h"
 #include "design/survey_reduction.h"
-#include "desktop/choices.h"
-#include "desktop/controls.h"
 #include "desktop/design/frm_d_list.h"
 #include "desktop/design/frm_parse.h"
 #include "desktop/design/frm_srs_observer.h"
 #include "desktop/design/frm_srs_opt.h"
 #include "desktop/design/site_table.h"
-#include "desktop/drawing_view.h"
+#include "desktop/parts/choices.h"
+#include "desktop/parts/controls.h"
+#include "desktop/parts/drawing_view.h"
 
 #include <QAction>
 #include <QCheckBox>

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "design/auto_selection.h"
-#include "design/progress_view.h"
 #include "design/srs_form.h"
-#include "desktop/child_window.h"
+#include "desktop/program/child_window.h"
+#include "forms/progress_view.h"
 
 #include <QStringList>
 

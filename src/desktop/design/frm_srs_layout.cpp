@@ -1,14 +1,14 @@
 // What frmSRS is made of: its controls and menus, without their rules.
 #include "design/design_table.h"
 #include "design/survey_reduction.h"
-#include "desktop/choices.h"
-#include "desktop/controls.h"
 #include "desktop/design/frm_d_list.h"
 #include "desktop/design/frm_parse.h"
 #include "desktop/design/frm_srs.h"
 #include "desktop/design/site_table.h"
-#include "desktop/drawing_view.h"
-#include "desktop/help_request.h"
+#include "desktop/parts/choices.h"
+#include "desktop/parts/controls.h"
+#include "desktop/parts/drawing_view.h"
+#include "desktop/program/help_request.h"
 
 #include <QAction>
 #include <QCheckBox>

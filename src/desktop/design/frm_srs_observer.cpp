@@ -1,8 +1,8 @@
 #include "desktop/design/frm_srs_observer.h"
 
-#include "design/progress_view.h"
-#include "desktop/controls.h"
 #include "desktop/design/frm_srs.h"
+#include "desktop/parts/controls.h"
+#include "forms/progress_view.h"
 #include "toolkit/number_text.h"
 
 #include <QApplication>

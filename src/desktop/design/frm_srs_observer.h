@@ -1,7 +1,7 @@
 #pragma once
 
 #include "design/run_observer.h"
-#include "desktop/input_guard.h"
+#include "desktop/parts/input_guard.h"
 
 #include <QElapsedTimer>
 

@@ -1,10 +1,10 @@
 #include "desktop/design/frm_srs_opt.h"
 
-#include "desktop/controls.h"
 #include "desktop/design/frm_srs.h"
-#include "desktop/print_page.h"
-#include "desktop/text_roles.h"
-#include "desktop/text_table.h"
+#include "desktop/parts/controls.h"
+#include "desktop/parts/text_roles.h"
+#include "desktop/parts/text_table.h"
+#include "desktop/program/print_page.h"
 #include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "design/auto_selection.h"
-#include "desktop/child_window.h"
+#include "desktop/program/child_window.h"
 #include "toolkit/text_table.h"
 
 #include <optional>

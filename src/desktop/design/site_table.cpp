@@ -1,6 +1,6 @@
 #include "desktop/design/site_table.h"
 
-#include "desktop/text_table.h"
+#include "desktop/parts/text_table.h"
 #include "toolkit/number_text.h"
 
 #include <QHeaderView>

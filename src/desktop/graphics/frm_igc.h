@@ -1,7 +1,7 @@
 #pragma once
 
-#include "desktop/child_window.h"
-#include "graphics/igc_form.h"
+#include "desktop/program/child_window.h"
+#include "forms/igc_form.h"
 
 #include <array>
 

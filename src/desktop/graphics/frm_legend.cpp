@@ -1,7 +1,7 @@
 #include "desktop/graphics/frm_legend.h"
 
-#include "desktop/controls.h"
 #include "desktop/graphics/frm_svy_graph.h"
+#include "desktop/parts/controls.h"
 #include "graphics/map_legend.h"
 #include "render/drawing_painter.h"
 

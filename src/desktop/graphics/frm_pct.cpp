@@ -1,9 +1,9 @@
 #include "desktop/graphics/frm_pct.h"
 
-#include "desktop/choices.h"
-#include "desktop/controls.h"
 #include "desktop/design/frm_srs.h"
 #include "desktop/graphics/frm_svy_graph.h"
+#include "desktop/parts/choices.h"
+#include "desktop/parts/controls.h"
 
 #include <QHBoxLayout>
 #include <QLabel>

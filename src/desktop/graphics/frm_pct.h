@@ -1,7 +1,7 @@
 #pragma once
 
-#include "desktop/child_window.h"
-#include "graphics/pct_form.h"
+#include "desktop/program/child_window.h"
+#include "forms/pct_form.h"
 
 #include <array>
 

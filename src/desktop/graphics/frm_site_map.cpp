@@ -1,10 +1,10 @@
 #include "desktop/graphics/frm_site_map.h"
 
-#include "desktop/controls.h"
-#include "desktop/drawing_view.h"
 #include "desktop/graphics/picture_actions.h"
 #include "desktop/graphics/picture_dialog.h"
-#include "desktop/help_request.h"
+#include "desktop/parts/controls.h"
+#include "desktop/parts/drawing_view.h"
+#include "desktop/program/help_request.h"
 #include "render/drawing_painter.h"
 #include "toolkit/refusal.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/child_window.h"
+#include "desktop/program/child_window.h"
 #include "graphics/site_map.h"
 #include "render/picture_file.h"
 

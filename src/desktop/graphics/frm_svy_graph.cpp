@@ -1,7 +1,5 @@
 #include "desktop/graphics/frm_svy_graph.h"
 
-#include "desktop/busy_pointer.h"
-#include "desktop/controls.h"
 #include "desktop/graphics/frm_igc.h"
 #include "desktop/graphics/frm_legend.h"
 #include "desktop/graphics/frm_pct.h"
@@ -9,7 +7,9 @@
 #include "desktop/graphics/picture_actions.h"
 #include "desktop/graphics/picture_dialog.h"
 #include "desktop/graphics/plot_board.h"
-#include "desktop/help_request.h"
+#include "desktop/parts/busy_pointer.h"
+#include "desktop/parts/controls.h"
+#include "desktop/program/help_request.h"
 #include "graphics/plot_page.h"
 
 #include <QAction>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/child_window.h"
+#include "desktop/program/child_window.h"
 #include "graphics/map_furniture.h"
 #include "graphics/survey_graph.h"
 #include "render/picture_file.h"

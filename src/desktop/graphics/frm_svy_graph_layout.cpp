@@ -1,8 +1,8 @@
 // What frmSvyGraph is made of: its panels, without their rules.
-#include "desktop/controls.h"
 #include "desktop/graphics/frm_legend.h"
 #include "desktop/graphics/frm_svy_graph.h"
 #include "desktop/graphics/plot_board.h"
+#include "desktop/parts/controls.h"
 #include "graphics/site_text.h"
 
 #include <QAction>

@@ -1,8 +1,8 @@
 #include "desktop/graphics/overlay_chooser.h"
 
-#include "desktop/choices.h"
-#include "desktop/controls.h"
 #include "desktop/graphics/frm_svy_graph.h"
+#include "desktop/parts/choices.h"
+#include "desktop/parts/controls.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

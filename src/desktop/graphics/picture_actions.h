@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/program.h"
+#include "desktop/program/program.h"
 #include "render/picture_file.h"
 
 namespace veln {

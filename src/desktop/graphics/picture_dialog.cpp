@@ -1,7 +1,7 @@
 #include "desktop/graphics/picture_dialog.h"
 
-#include "desktop/choices.h"
-#include "desktop/controls.h"
+#include "desktop/parts/choices.h"
+#include "desktop/parts/controls.h"
 
 #include <QGroupBox>
 #include <QHBoxLayout>

@@ -1,9 +1,9 @@
 #include "desktop/signal/frm_list.h"
 
-#include "desktop/controls.h"
-#include "desktop/print_page.h"
+#include "desktop/parts/controls.h"
+#include "desktop/parts/text_table.h"
+#include "desktop/program/print_page.h"
 #include "desktop/signal/frm_sig_decorr.h"
-#include "desktop/text_table.h"
 
 #include <QAction>
 #include <QMenuBar>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "desktop/child_window.h"
-#include "signal/outlier_list.h"
+#include "desktop/program/child_window.h"
+#include "forms/outlier_list.h"
 
 class QTableWidget;
 

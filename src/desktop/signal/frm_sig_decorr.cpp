@@ -1,8 +1,8 @@
 #include "desktop/signal/frm_sig_decorr.h"
 
-#include "desktop/controls.h"
+#include "desktop/parts/controls.h"
+#include "desktop/parts/text_roles.h"
 #include "desktop/signal/frm_list.h"
-#include "desktop/text_roles.h"
 
 #include <QGridLayout>
 #include <QGroupBox>

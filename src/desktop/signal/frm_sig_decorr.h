@@ -1,7 +1,7 @@
 #pragma once
 
-#include "desktop/child_window.h"
-#include "signal/sig_decorr_form.h"
+#include "desktop/program/child_window.h"
+#include "forms/sig_decorr_form.h"
 
 class QGroupBox;
 class QLabel;

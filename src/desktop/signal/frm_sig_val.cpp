@@ -1,10 +1,10 @@
 #include "desktop/signal/frm_sig_val.h"
 
-#include "desktop/busy_pointer.h"
-#include "desktop/choices.h"
-#include "desktop/controls.h"
+#include "desktop/parts/busy_pointer.h"
+#include "desktop/parts/choices.h"
+#include "desktop/parts/controls.h"
+#include "desktop/parts/text_roles.h"
 #include "desktop/signal/frm_sig_decorr.h"
-#include "desktop/text_roles.h"
 
 #include <QCheckBox>
 #include <QGroupBox>

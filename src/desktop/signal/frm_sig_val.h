@@ -1,7 +1,7 @@
 #pragma once
 
-#include "desktop/child_window.h"
-#include "signal/sig_val_form.h"
+#include "desktop/program/child_window.h"
+#include "forms/sig_val_form.h"
 
 class QCheckBox;
 class QGroupBox;

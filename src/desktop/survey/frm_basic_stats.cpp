@@ -1,7 +1,7 @@
 #include "desktop/survey/frm_basic_stats.h"
 
-#include "desktop/controls.h"
-#include "desktop/text_roles.h"
+#include "desktop/parts/controls.h"
+#include "desktop/parts/text_roles.h"
 
 #include <QCheckBox>
 #include <QFormLayout>

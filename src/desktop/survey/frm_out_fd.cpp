@@ -1,7 +1,7 @@
 #include "desktop/survey/frm_out_fd.h"
 
-#include "desktop/busy_pointer.h"
-#include "desktop/controls.h"
+#include "desktop/parts/busy_pointer.h"
+#include "desktop/parts/controls.h"
 #include "toolkit/number_text.h"
 
 #include <QGroupBox>

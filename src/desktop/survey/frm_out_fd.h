@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/child_window.h"
+#include "desktop/program/child_window.h"
 #include "survey/survey_export.h"
 
 class QGroupBox;

@@ -1,10 +1,10 @@
 #include "desktop/survey/frm_structure.h"
 
-#include "desktop/busy_pointer.h"
-#include "desktop/choices.h"
-#include "desktop/controls.h"
+#include "desktop/parts/busy_pointer.h"
+#include "desktop/parts/choices.h"
+#include "desktop/parts/controls.h"
+#include "desktop/parts/text_roles.h"
 #include "desktop/survey/record_preview_table.h"
-#include "desktop/text_roles.h"
 #include "toolkit/number_text.h"
 
 #include <QCheckBox>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "desktop/child_window.h"
-#include "survey/structure_form.h"
+#include "desktop/program/child_window.h"
+#include "forms/structure_form.h"
 
 class QCheckBox;
 class QGridLayout;

@@ -1,8 +1,8 @@
 #include "desktop/survey/record_preview_table.h"
 
-#include "desktop/controls.h"
-#include "desktop/text_roles.h"
-#include "survey/record_preview.h"
+#include "desktop/parts/controls.h"
+#include "desktop/parts/text_roles.h"
+#include "forms/record_preview.h"
 #include "toolkit/refusal.h"
 
 #include <QFileInfo>

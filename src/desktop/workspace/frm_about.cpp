@@ -1,7 +1,7 @@
 #include "desktop/workspace/frm_about.h"
 
-#include "desktop/controls.h"
-#include "desktop/text_roles.h"
+#include "desktop/parts/controls.h"
+#include "desktop/parts/text_roles.h"
 #include "workspace/version.h"
 
 #include <QHBoxLayout>

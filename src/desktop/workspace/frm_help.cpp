@@ -1,8 +1,8 @@
 #include "desktop/workspace/frm_help.h"
 
-#include "desktop/controls.h"
-#include "desktop/help_request.h"
-#include "workspace/output_view.h"
+#include "desktop/parts/controls.h"
+#include "desktop/program/help_request.h"
+#include "forms/output_view.h"
 
 #include <QHBoxLayout>
 #include <QPushButton>

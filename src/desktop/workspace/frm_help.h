@@ -1,7 +1,7 @@
 #pragma once
 
-#include "desktop/child_window.h"
-#include "workspace/help_document.h"
+#include "desktop/program/child_window.h"
+#include "forms/help_document.h"
 
 class QTextBrowser;
 

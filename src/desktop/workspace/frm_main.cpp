@@ -1,13 +1,13 @@
 #include "desktop/workspace/frm_main.h"
 
-#include "desktop/controls.h"
+#include "desktop/parts/controls.h"
+#include "desktop/parts/text_roles.h"
 #include "desktop/survey/frm_out_fd.h"
 #include "desktop/survey/frm_structure.h"
-#include "desktop/text_roles.h"
 #include "desktop/workspace/frm_project.h"
 #include "desktop/workspace/status_cards.h"
-#include "workspace/exit_flow.h"
-#include "workspace/next_step.h"
+#include "forms/exit_flow.h"
+#include "forms/next_step.h"
 #include "workspace/version.h"
 
 #include <QCloseEvent>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "desktop/program.h"
-#include "workspace/banner.h"
+#include "desktop/program/program.h"
+#include "forms/banner.h"
 
 #include <QMainWindow>
 

@@ -1,16 +1,16 @@
-#include "desktop/child_window.h"
 #include "desktop/design/frm_mask.h"
 #include "desktop/design/frm_srs.h"
 #include "desktop/graphics/frm_site_map.h"
 #include "desktop/graphics/frm_svy_graph.h"
-#include "desktop/help_request.h"
+#include "desktop/program/child_window.h"
+#include "desktop/program/help_request.h"
 #include "desktop/signal/frm_sig_decorr.h"
 #include "desktop/signal/frm_sig_val.h"
 #include "desktop/survey/frm_basic_stats.h"
 #include "desktop/workspace/frm_about.h"
 #include "desktop/workspace/frm_file_io.h"
 #include "desktop/workspace/frm_main.h"
-#include "workspace/output_view.h"
+#include "forms/output_view.h"
 
 namespace veln {
 

@@ -1,7 +1,7 @@
 #include "desktop/workspace/frm_project.h"
 
-#include "desktop/controls.h"
-#include "desktop/filtered_edit.h"
+#include "desktop/parts/controls.h"
+#include "desktop/parts/filtered_edit.h"
 
 #include <QGridLayout>
 #include <QGroupBox>

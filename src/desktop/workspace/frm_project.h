@@ -1,7 +1,7 @@
 #pragma once
 
-#include "desktop/child_window.h"
-#include "workspace/project_form.h"
+#include "desktop/program/child_window.h"
+#include "forms/project_form.h"
 
 class QGroupBox;
 class QLabel;

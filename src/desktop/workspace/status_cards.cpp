@@ -1,6 +1,6 @@
 #include "desktop/workspace/status_cards.h"
 
-#include "desktop/controls.h"
+#include "desktop/parts/controls.h"
 #include "workspace/survey_state.h"
 
 #include <QGridLayout>

@@ -1,0 +1,136 @@
+#include "desktop/parts/controls.h"
+
+#include <QPainter>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QSignalBlocker>
+#include <QSizePolicy>
+
+namespace veln {
+
+namespace {
+
+constexpr const char* CaptionProperty = "valueCaption";
+
+void InitValueLabel(QLabel& label, const char* name, const QString& caption)
+{
+  label.setObjectName(name);
+  label.setTextFormat(Qt::PlainText);
+  label.setTextInteractionFlags(Qt::TextSelectableByMouse);
+  label.setProperty(CaptionProperty, caption);
+  label.setAccessibleName(caption);
+}
+
+}  // namespace
+
+QString ToQt(const std::string& text)
+{
+  return QString::fromStdString(text);
+}
+
+std::string FromQt(const QString& text)
+{
+  return text.toStdString();
+}
+
+QString Literal(const QString& text)
+{
+  return QString(text).replace('&', "&&");
+}
+
+QString WithoutKey(const QString& caption)
+{
+  return QString(caption).remove('&');
+}
+
+QPushButton* MakeButton(QWidget* parent, const char* name, const QString& caption, const QString& toolTip)
+{
+  auto* button = new QPushButton(caption, parent);
+  button->setObjectName(name);
+  button->setToolTip(toolTip);
+  button->setAccessibleName(WithoutKey(caption).trimmed());
+  button->setAutoDefault(false);
+  return button;
+}
+
+QLabel* MakeFieldLabel(QWidget* parent, const char* name, const QString& caption, QWidget* field)
+{
+  auto* label = new QLabel(caption, parent);
+  label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
+  label->setBuddy(field);
+  QString accessible = WithoutKey(caption).trimmed();
+  if (accessible.endsWith(':')) {
+    accessible.chop(1);
+  }
+  field->setAccessibleName(accessible);
+  return label;
+}
+
+QLabel* MakeValueLabel(QWidget* parent, const char* name, const QString& caption)
+{
+  auto* label = new QLabel(parent);
+  InitValueLabel(*label, name, caption);
+  return label;
+}
+
+void ShowValue(QLabel& label, const QString& value)
+{
+  label.setText(value);
+  label.setAccessibleName((label.property(CaptionProperty).toString() + " " + value.trimmed()).trimmed());
+}
+
+QLabel* MakeText(QWidget* parent, const char* name, const QString& text)
+{
+  auto* label = new QLabel(text, parent);
+  label->setObjectName(name);
+  label->setTextFormat(Qt::PlainText);
+  label->setWordWrap(true);
+  return label;
+}
+
+void ShowOption(QRadioButton& option, bool selected)
+{
+  const QSignalBlocker quiet(option);
+  option.setAutoExclusive(false);  // an exclusive one cannot be cleared
+  option.setChecked(selected);
+  option.setAutoExclusive(true);
+}
+
+void KeepRoom(QWidget& widget)
+{
+  QSizePolicy policy = widget.sizePolicy();
+  policy.setRetainSizeWhenHidden(true);
+  widget.setSizePolicy(policy);
+}
+
+ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent)
+{
+  setTextFormat(Qt::PlainText);
+  setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Preferred);
+}
+
+QSize ElidedLabel::minimumSizeHint() const
+{
+  constexpr int FewCharacters = 8;
+  return {fontMetrics().averageCharWidth() * FewCharacters, QLabel::minimumSizeHint().height()};
+}
+
+void ElidedLabel::paintEvent(QPaintEvent* /*event*/)
+{
+  const QString shown = fontMetrics().elidedText(text(), Qt::ElideMiddle, contentsRect().width());
+  setToolTip(shown == text() ? QString() : text());
+  QPainter painter(this);
+  painter.setPen(palette().color(foregroundRole()));
+  painter.drawText(contentsRect(), static_cast<int>(alignment()), shown);
+}
+
+ElidedLabel* MakeElidedLabel(QWidget* parent, const char* name, const QString& caption)
+{
+  auto* label = new ElidedLabel(parent);
+  InitValueLabel(*label, name, caption);
+  label->setTextInteractionFlags(Qt::NoTextInteraction);  // what is painted is not the whole text
+  return label;
+}
+
+}  // namespace veln

@@ -1,0 +1,66 @@
+#include "forms/next_step.h"
+
+#include "toolkit/number_text.h"
+
+#include <algorithm>
+#include <cstdint>
+
+namespace veln {
+
+namespace {
+
+/// "1 site", "1500 sites".
+std::string Counted(std::int64_t count, const std::string& thing)
+{
+  return GeneralForm(static_cast<double>(count)) + " " + thing + (count == 1 ? "" : "s");
+}
+
+std::int64_t CountOf(const SurveyState& state, std::int16_t status)
+{
+  return std::ranges::count(state.SiteStatus, status);
+}
+
+std::string ValidationStep(const SurveyState& state)
+{
+  const std::string sites = Counted(state.SurveySize, "site");
+  const auto outliers = CountOf(state, site_status::Outlier);
+  if (outliers > 0) {
+    return "Next: validate " + sites + ": delete " + Counted(outliers, "outlier") +
+           ", or accept them as masked";
+  }
+  // The counts of the last decorrelation outlast the deletion of what it found.
+  return state.Decorrelation.Lblostdcnt == "0" ? "Next: validate and accept " + sites
+                                               : "Next: decorrelate the remaining " + sites + " again";
+}
+
+std::string DesignStep(const SurveyState& state, bool designsOffered)
+{
+  const auto free = Counted(CountOf(state, site_status::Free), "free site");
+  const bool saved = state.DesignCount > 0 || state.ManualDesignDone;
+  const bool more = designsOffered && state.Menu.IsEnabled(MenuEntry::mnuSRS);
+  const std::string leave = "exit, which exports " + Counted(state.SurveySize, "site");
+  if (saved) {
+    return more ? "Next: design another sample from " + free + ", or " + leave : "Next: " + leave;
+  }
+  return more ? "Next: design a sample from " + free
+              : "The survey is accepted, with " + free + ": view its output files";
+}
+
+}  // namespace
+
+std::string NextStep(const SurveyState& state, bool designsOffered)
+{
+  if (state.Menu.IsEnabled(MenuEntry::mnuVPOF)) {
+    return DesignStep(state, designsOffered);
+  }
+  if (state.Menu.IsEnabled(MenuEntry::mnuSigV)) {
+    return ValidationStep(state);
+  }
+  if (state.Menu.IsEnabled(MenuEntry::mnuSigD)) {
+    return "Next: decorrelate " + Counted(state.SurveySize, "site");
+  }
+  return state.Menu.IsEnabled(MenuEntry::mnuImport) ? "Next: import a survey data file"
+                                                    : "Next: set or create a project and a field ID";
+}
+
+}  // namespace veln

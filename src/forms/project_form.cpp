@@ -1,0 +1,117 @@
+#include "forms/project_form.h"
+
+#include "toolkit/file_store.h"
+#include "toolkit/refusal.h"
+#include "workspace/project.h"
+
+namespace veln {
+
+namespace {
+
+constexpr std::size_t FieldIdLength = 4;
+
+bool IsLetterOrDigit(char32_t c)
+{
+  return (c >= U'0' && c <= U'9') || (c >= U'A' && c <= U'Z') || (c >= U'a' && c <= U'z');
+}
+
+void HideFieldId(ProjectForm& form)
+{
+  form.Command1Visible = false;
+  form.LblFIDVisible = false;
+}
+
+}  // namespace
+
+ProjectForm LoadProjectForm(const SurveyState& state, Dialogs& dialogs)
+{
+  ProjectForm form;
+  try {
+    form.List1 = ListProjects(state.ProgramDir);
+  } catch (const Refusal& refusal) {
+    dialogs.Beep();
+    dialogs.Inform(refusal.Message());
+  }
+  return form;
+}
+
+void ChooseProject(ProjectForm& form, const std::string& project)
+{
+  form.LblPrj = project;
+}
+
+void BeginProjectCreation(ProjectForm& form)
+{
+  form.CreationVisible = true;
+  form.LblPrj.clear();
+  form.Command1Visible = false;
+}
+
+void CancelProjectCreation(ProjectForm& form)
+{
+  form.CreationVisible = false;
+}
+
+void CreateProject(ProjectForm& form, const SurveyState& state, Dialogs& dialogs)
+{
+  if (!IsProjectName(form.Text1)) {
+    dialogs.Beep();
+    dialogs.Inform("Invalid Project Name!  Please try again...");
+    return;
+  }
+  try {
+    MakeDirectory(state.ProgramDir / "data" / form.Text1);
+  } catch (const Refusal& refusal) {
+    dialogs.Inform(refusal.Message());
+    return;
+  }
+  form.LblPrj = form.Text1;
+  if (form.LblFID.size() == FieldIdLength) {
+    form.Command1Visible = true;
+  }
+  form.List1.push_back(form.Text1);
+  form.CreationVisible = false;
+}
+
+bool KeyInProjectName(ProjectForm& form, const Keystroke& key, Dialogs& dialogs)
+{
+  const char32_t c = key.Character;
+  if (c != 0 && !IsLetterOrDigit(c) && c != U'_' && c != U'.') {
+    dialogs.Beep();
+    return false;
+  }
+  form.Text1 = key.After;
+  return true;
+}
+
+bool KeyInFieldId(ProjectForm& form, const Keystroke& key, Dialogs& dialogs)
+{
+  const bool passes = key.Character == 0 || IsLetterOrDigit(key.Character);
+  if (!passes) {
+    dialogs.Beep();
+  } else {
+    form.Text3 = key.After;
+  }
+  const bool fourth = key.Before.size() == FieldIdLength - 1 && key.After.size() == FieldIdLength;
+  if (passes && key.Character != 0 && !form.LblPrj.empty() && fourth) {
+    form.LblFID = key.After;
+    form.LblFIDVisible = true;
+    form.Command1Visible = true;
+  } else {
+    HideFieldId(form);
+  }
+  return passes;
+}
+
+bool AcceptProjectForm(ProjectForm& form, SurveyState& state, Dialogs& dialogs)
+{
+  if (!CheckAlphaCode(state.ProgramDir, form.LblPrj, form.LblFID, dialogs)) {
+    HideFieldId(form);
+    form.Text3.clear();
+    return false;
+  }
+  AcceptProject(state, form.LblPrj, form.LblFID, form.Text2);
+  return true;
+}
+
+}  // namespace veln
