@@ -16,22 +16,6 @@ namespace veln {
 
 namespace {
 
-/// Closes up a column over the sites that stay; columns that the survey does not have are empty.
-template <class Column>
-void Compact(Column& column, const std::vector<bool>& stays)
-{
-  if (column.empty()) {
-    return;
-  }
-  std::size_t kept = 0;
-  for (std::size_t i = 0; i < stays.size(); ++i) {
-    if (stays[i]) {
-      column[kept++] = column[i];
-    }
-  }
-  column.resize(kept);
-}
-
 void RunEdgeBuffering(SurveyState& state, bool rowbuf, Dialogs& dialogs, Acceptance& acceptance)
 {
   const int masked = EdgeBuffer(state, InitRows(state.RowNumber), rowbuf);
@@ -89,13 +73,7 @@ int DeleteOutliers(SurveyState& state)
   for (const std::int16_t status : state.SiteStatus) {
     stays.push_back(status != site_status::Outlier);
   }
-  for (auto* column :
-       {&state.CoordX, &state.CoordY, &state.Signal1, &state.Signal2, &state.Decorr1, &state.Decorr2}) {
-    Compact(*column, stays);
-  }
-  for (auto* column : {&state.SiteId, &state.RowNumber, &state.SiteStatus}) {
-    Compact(*column, stays);
-  }
+  state.KeepOnly(stays);
   const auto deleted = static_cast<int>(std::ranges::count(stays, false));
   state.SurveySize -= deleted;
   state.DeletedSiteCount += deleted;

@@ -1,23 +1,13 @@
 #pragma once
 
+#include "workspace/site_columns.h"
 #include "workspace/workflow.h"
 
 #include <array>
-#include <cstdint>
 #include <filesystem>
 #include <string>
-#include <vector>
 
 namespace veln {
-
-/// The states of a site, as `SiteStatus` holds them; 1 to 5 are the numbers of saved designs.
-namespace site_status {
-inline constexpr std::int16_t Free = 0;       ///< available to the design search
-inline constexpr std::int16_t Selected = 6;   ///< picked by hand for the manual design
-inline constexpr std::int16_t Masked = 7;     ///< kept in the data, not selectable
-inline constexpr std::int16_t Outlier = 8;    ///< above the outlier level, or dropped by survey reduction
-inline constexpr std::int16_t Candidate = 9;  ///< target site of the design in work
-}  // namespace site_status
 
 inline constexpr int MaxDesigns = 5;
 
@@ -76,22 +66,13 @@ struct FieldOrientation {
 
 /// The one record that holds a survey for the length of a program run. The front end owns the only one and
 /// hands it to the procedures; what a panel shows is the text that files carry.
-struct SurveyState {
+struct SurveyState : SiteColumns {
   // The survey.
   int SurveySize = 0;   ///< sites held; 50 to 30,000 after import, fewer after deletions
   int SignalCount = 1;  ///< signal columns, 1 or 2
   std::array<std::string, 2> SignalLabel;
   std::string SignalUnits = "mS/m";  ///< "mS/m" or "dS/m"
   bool LogTransform = false;         ///< the signals are natural logarithms
-
-  // One entry a site, in file order.
-  std::vector<std::int16_t> SiteId;
-  std::vector<std::int16_t> SiteStatus;
-  std::vector<double> CoordX, CoordY;    ///< in the file's units
-  std::vector<double> Signal1, Signal2;  ///< s1 and s2; s2 only with two signals
-  std::vector<double> Decorr1, Decorr2;  ///< z1 and z2 in standard deviations, once decorrelated
-  std::vector<double> TransitionScore;   ///< once transition analysis has run
-  std::vector<std::int16_t> RowNumber;   ///< transect row, 1 to 250; empty for a grid
 
   FieldOrientation Orientation;
 
