@@ -1,7 +1,7 @@
 #include "cli/run_json.h"
 
-#include "survey/statistics.h"
 #include "toolkit/dialogs.h"
+#include "workspace/captions.h"
 #include "workspace/version.h"
 
 #include <nlohmann/json.hpp>
@@ -33,23 +33,15 @@ Json SignalsOf(const SurveyState& state)
 {
   Json list = Json::array();
   for (int i = 0; i < state.SignalCount; ++i) {
-    const SignalStatistics statistics = DescribeSignal(i == 0 ? state.Signal1 : state.Signal2);
-    list.push_back({{"label", state.SignalLabel.at(static_cast<std::size_t>(i))},
+    const auto& [label, statistics] = state.Signals.Rows.at(static_cast<std::size_t>(i));
+    list.push_back({{"label", label},
                     {"n", state.SurveySize},
-                    {"mean", Number(statistics.Mean.Mean)},
-                    {"std", Number(statistics.Mean.Std)},
-                    {"min", Number(statistics.Range.Minimum)},
-                    {"max", Number(statistics.Range.Maximum)}});
+                    {"mean", Number(statistics.Mean)},
+                    {"std", Number(statistics.Std)},
+                    {"min", Number(statistics.Minimum)},
+                    {"max", Number(statistics.Maximum)}});
   }
   return list;
-}
-
-Json CorrelationOf(const SurveyState& state)
-{
-  if (state.SignalCount == 1) {
-    return nullptr;
-  }
-  return OrNull(Correlation(state.Signal1, state.Signal2), Number);
 }
 
 Json DecorrelationsOf(const RunOptions& options, const RunRecord& record)
@@ -160,13 +152,13 @@ std::string ComposeRunJson(const RunOptions& options, const RunRecord& record, c
       {"version", ProgramVersion},
       {"import",
        {{"file", import.FileName},
-        {"type", state.SurveyType},
+        {"type", SurveyTypeText(state.Kind)},
         {"sites", record.ImportedSites},
         {"signals", state.SignalCount},
         {"log", import.Log},
         {"units", import.Units}}},
       {"signals", SignalsOf(state)},
-      {"corr", CorrelationOf(state)},
+      {"corr", OrNull(state.Signals.Correlation, Number)},
       {"decorrelation", DecorrelationsOf(options, record)},
       {"deleted", state.DeletedSiteCount},
       {"validations", state.ValidationCount},

@@ -19,6 +19,7 @@
 #include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
+#include "workspace/captions.h"
 #include "workspace/project.h"
 
 #include <ostream>
@@ -138,12 +139,12 @@ class SurveyRun {
       progress_.Step("Coordinates", Count(options_.Translations.size(), "translation") + " applied");
     }
     for (int i = 0; i < state_.SignalCount; ++i) {
-      const SignalRow& row = state_.Signals.Rows.at(static_cast<std::size_t>(i));
+      const SignalTexts row = TextsOf(state_.Signals.Rows.at(static_cast<std::size_t>(i)));
       progress_.Step(i == 0 ? "Signals" : "", row.LblNm + ": mean " + row.LblMu + ", std " + row.LblStd +
                                                   ", " + row.LblMn + " to " + row.LblMx);
     }
-    if (!state_.Signals.LblCorr.empty()) {
-      progress_.Step("", "correlation " + state_.Signals.LblCorr);
+    if (state_.Signals.Correlation) {
+      progress_.Step("", "correlation " + PanelCorrelation(state_.Signals));
     }
   }
 
@@ -153,8 +154,8 @@ class SurveyRun {
     record_.Decorrelations.push_back({state_.SurveySize, counts});
     progress_.Step("Decorrelation",
                    Count(state_.SurveySize, "site") + ": " + GeneralForm(counts.MaskedCount) + " masked, " +
-                       Count(counts.OutlierCount, "outlier") + " (levels " + state_.Decorrelation.Lblmstd +
-                       ", " + state_.Decorrelation.Lblostd + ")");
+                       Count(counts.OutlierCount, "outlier") + " (levels " +
+                       LevelText(options_.Levels.Masking) + ", " + LevelText(options_.Levels.Outlier) + ")");
   }
 
   void DeleteOutlierRounds()
@@ -176,8 +177,9 @@ class SurveyRun {
     record_.EdgeMasked = acceptance.EdgeMasked;
     record_.HighScores = acceptance.HighScores;
     record_.Files = acceptance.Files;
-    progress_.Step("Acceptance", "edge buffering " + state_.Algorithms.LblEB + ", transition analysis " +
-                                     state_.Algorithms.Label21);
+    const auto& [edgeBuffering, transitionAnalysis] = *state_.Algorithms;
+    progress_.Step("Acceptance", std::string("edge buffering ") + AlgorithmText(edgeBuffering) +
+                                     ", transition analysis " + AlgorithmText(transitionAnalysis));
   }
 
   void SelectByHand()
@@ -322,7 +324,7 @@ class SurveyRun {
 
   void Export()
   {
-    if (!options_.Export || (state_.DesignCount == 0 && !state_.ManualDesignDone)) {
+    if (!options_.Export || !HasDesign(state_)) {
       return;
     }
     const ExportResult result = MakeOutF(state_);

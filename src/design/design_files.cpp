@@ -140,9 +140,8 @@ void PutSiteLists(SiteLists& lists, const DesignReport& design)
 /// `UpdateSSDInfo`: the design's row in the panel of designs.
 void UpdateSSDInfo(SurveyState& state, const DesignToSave& save)
 {
-  state.Designs.Visible = true;
-  state.Designs.Rows.at(static_cast<std::size_t>(state.DesignCount) - 1) = {
-      NumberToString(save.SampleSize), NumberToString(RoundByFormat(save.Made.OptCriteria, LevelFormat))};
+  state.Designs.at(static_cast<std::size_t>(state.DesignCount) - 1) = {save.SampleSize,
+                                                                       save.Made.OptCriteria};
 }
 
 }  // namespace

@@ -113,8 +113,7 @@ std::filesystem::path SaveUDSamInfo(SurveyState& state, Dialogs& dialogs, const 
   } catch (const Refusal& refusal) {
     throw Refusal("Warning: could not create output UGSD file...\n" + refusal.Message());
   }
-  state.Designs.Visible = true;
-  state.Designs.Lblssmdn = NumberToString(static_cast<double>(sites.size()));
+  state.ManualDesignSize = static_cast<int>(sites.size());
   dialogs.Inform("User generated sampling design information has been saved to " + OutputName(state, Suffix));
   state.ManualDesignDone = true;
   state.Menu.Apply(WorkflowEvent::ManualDesignSaved);

@@ -119,7 +119,7 @@ SrsForm OpenSrs(SurveyState& state, Dialogs& dialogs)
   SrsForm form;
   SelectSize(form, DesignSize::Standard);
   InitPossSP(form, state, DetermineAvSites(state), dialogs);
-  form.LblSC = state.LblSC;
+  form.LblSC = NumberToString(state.SignalCount);
   form.LblDN = GeneralForm(state.DesignCount + 1);
   form.Check2Enabled = state.TransitionDone;
   form.Check3Enabled = state.SurveySize >= FewestSitesForParsing;

@@ -7,7 +7,7 @@ ExitRoute RequestExit(const SurveyState& state, Dialogs& dialogs)
   if (!state.Menu.IsEnabled(MenuEntry::mnuVPOF)) {
     return dialogs.Ask("Do You Really Wish to Exit?") ? ExitRoute::Leave : ExitRoute::Stay;
   }
-  if (state.ManualDesignDone || state.DesignCount > 0) {
+  if (HasDesign(state)) {
     return ExitRoute::Export;
   }
   dialogs.Beep();

@@ -28,18 +28,16 @@ std::string ValidationStep(const SurveyState& state)
     return "Next: validate " + sites + ": delete " + Counted(outliers, "outlier") +
            ", or accept them as masked";
   }
-  // The counts of the last decorrelation outlast the deletion of what it found.
-  return state.Decorrelation.Lblostdcnt == "0" ? "Next: validate and accept " + sites
-                                               : "Next: decorrelate the remaining " + sites + " again";
+  return state.Decorrelation.Counts.OutlierCount == 0 ? "Next: validate and accept " + sites
+                                                      : "Next: decorrelate the remaining " + sites + " again";
 }
 
 std::string DesignStep(const SurveyState& state, bool designsOffered)
 {
   const auto free = Counted(CountOf(state, site_status::Free), "free site");
-  const bool saved = state.DesignCount > 0 || state.ManualDesignDone;
   const bool more = designsOffered && state.Menu.IsEnabled(MenuEntry::mnuSRS);
   const std::string leave = "exit, which exports " + Counted(state.SurveySize, "site");
-  if (saved) {
+  if (HasDesign(state)) {
     return more ? "Next: design another sample from " + free + ", or " + leave : "Next: " + leave;
   }
   return more ? "Next: design a sample from " + free

@@ -1,27 +1,16 @@
 #include "forms/sig_decorr_form.h"
 
-#include "toolkit/number_text.h"
+#include "workspace/captions.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace veln {
-
-namespace {
-
-int LevelOf(const std::string& text)
-{
-  constexpr double LevelStep = 100;
-  return static_cast<int>(std::lround(ParseNumber(text).value_or(0) * LevelStep));
-}
-
-}  // namespace
 
 SigDecorrForm LoadSigDecorrForm(const SurveyState& state)
 {
   SigDecorrForm form;
   if (state.DecorrDone) {
-    form.Levels = {LevelOf(state.Decorrelation.Lblmstd), LevelOf(state.Decorrelation.Lblostd)};
+    form.Levels = state.Decorrelation.Levels;
   }
   return form;
 }
@@ -43,9 +32,10 @@ void MoveOutlierLevel(SigDecorrForm& form, int level)
 void PerformDecorrelation(SigDecorrForm& form, SurveyState& state)
 {
   form.Counts = DecorrelateSignals(state, form.Levels);
-  form.Label3 = state.Decorrelation.Lblmstdcnt;
-  form.Label4 = state.Decorrelation.Lblostdcnt;
-  form.Label5 = state.Decorrelation.LblDcnt;
+  const DecorrelationTexts texts = DecorrelationTextsOf(state);
+  form.Label3 = texts.Lblmstdcnt;
+  form.Label4 = texts.Lblostdcnt;
+  form.Label5 = texts.LblDcnt;
   form.ResultsVisible = true;
   form.Command3Visible = form.Counts.OutlierCount >= 1;
 }

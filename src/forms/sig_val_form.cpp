@@ -62,7 +62,7 @@ SigValForm LoadSigValForm(const SurveyState& state)
 {
   SigValForm form;
   form.Transect = IsTransect(state);
-  form.OutliersFound = ParseNumber(state.Decorrelation.Lblostdcnt).value_or(0) >= 1;
+  form.OutliersFound = state.Decorrelation.Counts.OutlierCount > 0;
   form.Option1Enabled = form.OutliersFound;
   if (form.OutliersFound) {
     form.Option1 = true;

@@ -131,7 +131,7 @@ std::optional<RowStatistics> StatisticsOfRow(SurveyGraph& graph, const SurveySta
   const auto position = PartOf(SeriesOf(state, alongX ? state.CoordX : state.CoordY), *row);
   const MomentTexts moments = MomentsAsText(values);
   return RowStatistics{
-      {state.Signals.Rows.at(static_cast<std::size_t>(signal) - 1).LblNm, moments.Mean, moments.Std},
+      {state.Signals.Rows.at(static_cast<std::size_t>(signal) - 1).Label, moments.Mean, moments.Std},
       "Corr(s" + GeneralForm(signal) + (alongX ? ", x)" : ", y)"),
       CorrelationText(values, position)};
 }

@@ -5,6 +5,7 @@
 #include "graphics/plot_statistics.h"
 #include "graphics/survey_graph.h"
 #include "toolkit/number_text.h"
+#include "workspace/captions.h"
 
 #include <algorithm>
 #include <cmath>
@@ -62,7 +63,7 @@ void OpenPointPlot(SurveyGraph& graph)
 struct SignalSource {
   std::span<const double> Values;
   Limits Range;
-  const SignalRow& Row;
+  SignalTexts Row;
   const std::string& Label;
 };
 
@@ -70,7 +71,7 @@ SignalSource SignalOf(const SurveyGraph& graph, const SurveyState& state, int nu
 {
   const std::size_t index = static_cast<std::size_t>(number) - 1;
   return {SeriesOf(state, number == 1 ? state.Signal1 : state.Signal2),
-          number == 1 ? graph.S1Range : graph.S2Range, state.Signals.Rows.at(index),
+          number == 1 ? graph.S1Range : graph.S2Range, TextsOf(state.Signals.Rows.at(index)),
           state.SignalLabel.at(index)};
 }
 
@@ -94,7 +95,8 @@ void ShowSignalBySignal(SurveyGraph& graph, const SurveyState& state)
   const SignalSource s1 = SignalOf(graph, state, 1);
   const SignalSource s2 = SignalOf(graph, state, 2);
   SetStats(graph.Shown, {s1.Row.LblNm, s1.Row.LblMu, s1.Row.LblStd},
-           {s2.Row.LblNm, s2.Row.LblMu, s2.Row.LblStd}, {"Corr(s1, s2)", state.Signals.LblCorr, ""});
+           {s2.Row.LblNm, s2.Row.LblMu, s2.Row.LblStd},
+           {"Corr(s1, s2)", PanelCorrelation(state.Signals), ""});
   LabelAxes(graph.Shown, AxisOf(s2.Range, AxisFormat::Signal), AxisOf(s1.Range, AxisFormat::Signal));
   graph.Shown.Title = s1.Label + " versus " + s2.Label;
   PlotPoints(graph, state, {s2.Values, s2.Range, s1.Values, s1.Range}, false);

@@ -53,7 +53,7 @@ SurveyGraph LoadSurveyGraph(SurveyState& state)
   if (state.DecorrDone) {
     Enable(graph, {mnuSz1z2});
   }
-  if (state.DesignCount > 0 || state.ManualDesignDone) {
+  if (HasDesign(state)) {
     state.OverlayReady = true;
   }
   InitHist(graph, state);

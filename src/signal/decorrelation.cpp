@@ -100,24 +100,7 @@ DecorrelationCounts ClassifySites(SurveyState& state, const DecorrelationLevels&
   return counts;
 }
 
-void ShowCounts(SurveyState& state, const DecorrelationLevels& levels, const DecorrelationCounts& counts)
-{
-  DecorrelationPanel& panel = state.Decorrelation;
-  panel.Lblmstd = LevelText(levels.Masking);
-  panel.Lblostd = LevelText(levels.Outlier);
-  panel.Lblmstdcnt = GeneralForm(counts.MaskedCount + counts.OutlierCount);
-  panel.Lblostdcnt = GeneralForm(counts.OutlierCount);
-  panel.LblDcnt = GeneralForm(state.DeletedSiteCount);
-  panel.LblVcnt = GeneralForm(state.ValidationCount);
-  panel.Visible = true;
-}
-
 }  // namespace
-
-std::string LevelText(int level)
-{
-  return FormatNumber(level / LevelStep, "0.00");
-}
 
 double SignalDistance(const SurveyState& state, std::size_t site)
 {
@@ -141,7 +124,7 @@ DecorrelationCounts DecorrelateSignals(SurveyState& state, const DecorrelationLe
   state.Decorr2 = std::move(signals.Z2);
   const DecorrelationCounts counts = ClassifySites(state, levels);
   state.DecorrDone = true;
-  ShowCounts(state, levels, counts);
+  state.Decorrelation = {levels, counts};
   state.Menu.Apply(WorkflowEvent::SignalsDecorrelated);
   return counts;
 }

@@ -4,24 +4,8 @@
 
 namespace veln {
 
-/// The two limits of a site's distance from the centre of the signal cloud, in hundredths of a standard
-/// deviation: 300 to 600, the masking level never above the outlier level.
-struct DecorrelationLevels {
-  int Masking = 350;
-  int Outlier = 450;
-};
-
 inline constexpr int LowestLevel = 300;
 inline constexpr int HighestLevel = 600;
-
-/// How many sites the last decorrelation set aside.
-struct DecorrelationCounts {
-  int MaskedCount = 0;   ///< at or above the masking level, below the outlier level
-  int OutlierCount = 0;  ///< at or above the outlier level
-};
-
-/// A level as the window shows it: 350 is "3.50".
-std::string LevelText(int level);
 
 /// The distance of a site from the centre of the signal cloud in standard deviations: |z1|, or with two
 /// signals sqrt(z1 x z1 + z2 x z2), the Mahalanobis distance of the raw signals.

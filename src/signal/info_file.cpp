@@ -4,6 +4,7 @@
 #include "toolkit/number_text.h"
 #include "toolkit/text_report.h"
 #include "toolkit/utf8.h"
+#include "workspace/captions.h"
 
 #include <array>
 
@@ -13,7 +14,7 @@ namespace {
 
 void PutHead(TextReport& report, const SurveyState& state, const Clock& clock)
 {
-  std::string type = state.SurveyType;
+  std::string type = SurveyTypeText(state.Kind);
   if (IsTransect(state)) {
     type += "  (rowcount =" + NumberToString(static_cast<double>(InitRows(state.RowNumber).size())) + ")";
   }
@@ -31,7 +32,7 @@ void PutHead(TextReport& report, const SurveyState& state, const Clock& clock)
       .Line("Survey Size:    " + PrintedNumber(state.SurveySize))
       .Line("# of Signals:   " + PrintedNumber(state.SignalCount))
       .Line("Signal Units:    " + state.SignalUnits)
-      .Line("Sig Trnsfrm:     " + state.SignalTransformText)
+      .Line(std::string("Sig Trnsfrm:     ") + SignalTransformText(state.LogTransform))
       .BlankLines(3)
       .Line("Signal Statistics")
       .BlankLines();
@@ -47,17 +48,18 @@ void PutStatistics(TextReport& report, const SurveyState& state)
 {
   struct StatisticsLine {
     const char* Caption;
-    std::string SignalRow::* Value;
+    std::string SignalTexts::* Value;
   };
-  const std::array<StatisticsLine, 5> lines = {{{"   N", &SignalRow::LblSz},
-                                                {"   Mean", &SignalRow::LblMu},
-                                                {"   Std", &SignalRow::LblStd},
-                                                {"   Min", &SignalRow::LblMn},
-                                                {"   Max", &SignalRow::LblMx}}};
+  const std::array<StatisticsLine, 5> lines = {{{"   N", &SignalTexts::LblSz},
+                                                {"   Mean", &SignalTexts::LblMu},
+                                                {"   Std", &SignalTexts::LblStd},
+                                                {"   Min", &SignalTexts::LblMn},
+                                                {"   Max", &SignalTexts::LblMx}}};
   constexpr int FirstEnd = 25;
   constexpr int SecondEnd = 45;
   const bool two = state.SignalCount == 2;
-  const auto& [first, second] = state.Signals.Rows;
+  const SignalTexts first = TextsOf(state.Signals.Rows[0]);
+  const SignalTexts second = TextsOf(state.Signals.Rows[1]);
   report.At(20).Text(first.LblNm);
   if (two) {
     report.At(40).Text(second.LblNm);
@@ -75,11 +77,11 @@ void PutStatistics(TextReport& report, const SurveyState& state)
     report.EndLine();
   }
   if (two) {
-    report.BlankLines().Line("   Signal Corr =   " + state.Signals.LblCorr);
+    report.BlankLines().Line("   Signal Corr =   " + PanelCorrelation(state.Signals));
   }
 }
 
-void PutDecorrelation(TextReport& report, const DecorrelationPanel& panel)
+void PutDecorrelation(TextReport& report, const DecorrelationTexts& panel)
 {
   report.BlankLines(2).Line("Decorrelation Statistics").BlankLines();
   report.At(30).Text("Level").At(40).Line("# Sites > Level");
@@ -98,9 +100,10 @@ std::string ComposeInfoFile(const SurveyState& state, const Clock& clock)
   TextReport report;
   PutHead(report, state, clock);
   PutStatistics(report, state);
-  PutDecorrelation(report, state.Decorrelation);
-  report.Line("Edge Buffering:          " + state.Algorithms.LblEB)
-      .Line("Transition Analysis:     " + state.Algorithms.Label21);
+  PutDecorrelation(report, DecorrelationTextsOf(state));
+  const AlgorithmFacts algorithms = state.Algorithms.value_or(AlgorithmFacts{});
+  report.Line(std::string("Edge Buffering:          ") + AlgorithmText(algorithms.EdgeBuffering))
+      .Line(std::string("Transition Analysis:     ") + AlgorithmText(algorithms.TransitionAnalysis));
   return report.Content();
 }
 

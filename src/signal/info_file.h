@@ -7,8 +7,7 @@
 
 namespace veln {
 
-/// The text of `info.txt`: the record of field, survey and validation, mostly from the panels as their texts
-/// stand.
+/// The text of `info.txt`: the record of field, survey and validation, with the texts of the panels.
 std::string ComposeInfoFile(const SurveyState& state, const Clock& clock);
 
 }  // namespace veln

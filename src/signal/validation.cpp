@@ -65,7 +65,7 @@ void MakeInfoFile(const SurveyState& state, Dialogs& dialogs, const Clock& clock
 int DeleteOutliers(SurveyState& state)
 {
   state.Menu.Require(MenuEntry::mnuSigV, "Signal validation");
-  if (state.Decorrelation.Lblostdcnt == "0") {
+  if (state.Decorrelation.Counts.OutlierCount == 0) {
     throw Refusal("There are no outliers to delete.");
   }
   std::vector<bool> stays;
@@ -78,8 +78,6 @@ int DeleteOutliers(SurveyState& state)
   state.SurveySize -= deleted;
   state.DeletedSiteCount += deleted;
   ++state.ValidationCount;
-  state.Decorrelation.LblDcnt = GeneralForm(state.DeletedSiteCount);
-  state.Decorrelation.LblVcnt = GeneralForm(state.ValidationCount);
   UpdateSignalStats(state);
   return deleted;
 }
@@ -95,19 +93,18 @@ Acceptance AcceptConfiguration(SurveyState& state, const AcceptanceOptions& opti
     RequireMeasurable(MeasureField(state));
   }
   Acceptance acceptance;
-  const char* notRun = IsTransect(state) ? "none" : "n/a";
+  const auto stateOf = [&state](bool asked) {
+    const auto notRun = IsTransect(state) ? AlgorithmState::NotAsked : AlgorithmState::NotApplicable;
+    return asked ? AlgorithmState::Invoked : notRun;
+  };
   std::ranges::replace(state.SiteStatus, site_status::Outlier, site_status::Masked);
   if (options.EdgeBuffering) {
     RunEdgeBuffering(state, *options.EdgeBuffering, dialogs, acceptance);
-  } else {
-    state.Algorithms.LblEB = notRun;
   }
   if (options.TransitionAnalysis) {
     RunTransitionAnalysis(state, dialogs, acceptance);
-  } else {
-    state.Algorithms.Label21 = notRun;
   }
-  state.Algorithms.Visible = true;
+  state.Algorithms = {stateOf(options.EdgeBuffering.has_value()), stateOf(options.TransitionAnalysis)};
   MakeInfoFile(state, dialogs, clock, acceptance);
   state.Menu.Apply(WorkflowEvent::ConfigurationAccepted);
   return acceptance;

@@ -114,7 +114,6 @@ void ComputeSignals(SurveyState& state, const BasicStatsForm& form)
   RequireStatistics(signals);
 
   state.LogTransform = signals.Log;
-  state.SignalTransformText = signals.Log ? "natural log" : "none";
   state.SignalUnits = signals.Units;
   if (state.SignalCount == 2) {
     state.Signal2 = std::move(signals.Columns[1]);

@@ -1,28 +1,15 @@
 #include "survey/statistics.h"
 
-#include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
 
 #include <algorithm>
 #include <cmath>
-#include <string>
 
 namespace veln {
 
 namespace {
 
 constexpr double Sentinel = 1E+24;
-constexpr const char* PanelFormat = "##0.000";
-
-SignalRow ShowSignal(const std::string& label, const SignalStatistics& statistics)
-{
-  return {label,
-          GeneralForm(statistics.Mean.Count),
-          FormatNumber(statistics.Mean.Mean, PanelFormat),
-          FormatNumber(statistics.Mean.Std, PanelFormat),
-          FormatNumber(statistics.Range.Minimum, PanelFormat),
-          FormatNumber(statistics.Range.Maximum, PanelFormat)};
-}
 
 }  // namespace
 
@@ -92,22 +79,17 @@ SignalStatistics DescribeSignal(std::span<const double> signal)
 
 bool IsFinite(const SignalStatistics& statistics)
 {
-  return std::isfinite(statistics.Mean.Mean) && std::isfinite(statistics.Mean.Std) &&
-         std::isfinite(statistics.Range.Minimum) && std::isfinite(statistics.Range.Maximum);
+  return std::isfinite(statistics.Mean) && std::isfinite(statistics.Std) &&
+         std::isfinite(statistics.Minimum) && std::isfinite(statistics.Maximum);
 }
 
 void UpdateSignalStats(SurveyState& state)
 {
-  state.Signals.Visible = true;
-  state.Signals.Rows[0] = ShowSignal(state.SignalLabel[0], DescribeSignal(state.Signal1));
-  state.LblSS = state.Signals.Rows[0].LblSz;
-  if (state.SignalCount == 1) {
-    return;
+  state.Signals.Rows[0] = {state.SignalLabel[0], DescribeSignal(state.Signal1)};
+  if (state.SignalCount == 2) {
+    state.Signals.Rows[1] = {state.SignalLabel[1], DescribeSignal(state.Signal2)};
+    state.Signals.Correlation = Correlation(state.Signal1, state.Signal2);
   }
-  state.Signals.Rows[1] = ShowSignal(state.SignalLabel[1], DescribeSignal(state.Signal2));
-  state.Signals.CorrVisible = true;
-  const auto r = Correlation(state.Signal1, state.Signal2);
-  state.Signals.LblCorr = r ? FormatNumber(*r, "#0.0000") : "";
 }
 
 }  // namespace veln

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "workspace/survey_facts.h"
 #include "workspace/survey_state.h"
 
 #include <optional>
@@ -7,19 +8,6 @@
 #include <vector>
 
 namespace veln {
-
-/// The ends of a series.
-struct Limits {
-  double Minimum = 0;
-  double Maximum = 0;
-};
-
-/// What `MeanStd` tells of a series.
-struct Moments {
-  double Mean = 0;
-  double Std = 0;  ///< sample standard deviation, divisor n - 1
-  double Count = 0;
-};
 
 /// Lowest and highest value. They start from the sentinels 1E+24 and -1E+24, which stand when no value beats
 /// them.
@@ -40,18 +28,12 @@ bool IsConstant(std::span<const double> series);
 bool AllFinite(std::span<const double> series);
 
 /// Moments and limits of one signal.
-struct SignalStatistics {
-  Moments Mean;
-  Limits Range;
-};
-
 SignalStatistics DescribeSignal(std::span<const double> signal);
 
 /// Whether mean, deviation and limits are all numbers: false for signals whose squares leave the doubles.
 bool IsFinite(const SignalStatistics& statistics);
 
-/// Recomputes the statistics panel from the signals and shows it. An undefined correlation shows as an empty
-/// text.
+/// Refreshes the statistics panel from the labels and signals. With one signal its second row stays.
 void UpdateSignalStats(SurveyState& state);
 
 }  // namespace veln

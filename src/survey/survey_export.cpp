@@ -22,12 +22,11 @@ std::string Quoted(const std::string& text)
 void PutHeader(TextReport& report, const SurveyState& state)
 {
   const bool two = state.SignalCount == 2;
-  const std::string transform = state.SignalTransformText == "natural log" ? "log" : "none";
   report.Line(GeneralForm(state.SurveySize) + "," + GeneralForm(state.SignalCount + 2) + "," +
-              Quoted(state.SurveyType.substr(0, 1)) + "," + Quoted(transform));
-  std::string labels = Quoted(state.Signals.Rows[0].LblNm);
+              Quoted(IsTransect(state) ? "T" : "G") + "," + Quoted(state.LogTransform ? "log" : "none"));
+  std::string labels = Quoted(state.Signals.Rows[0].Label);
   if (two) {
-    labels += "," + Quoted(state.Signals.Rows[1].LblNm);
+    labels += "," + Quoted(state.Signals.Rows[1].Label);
   }
   labels += "," + Quoted("1st-PCS");
   if (two) {
@@ -78,7 +77,7 @@ std::string ComposeSurveyExport(const SurveyState& state, const ExportProgress& 
 
 ExportResult MakeOutF(const SurveyState& state, const ExportProgress& progress)
 {
-  if (state.DesignCount == 0 && !state.ManualDesignDone) {
+  if (!HasDesign(state)) {
     throw Refusal("The survey is exported only after a sample design has been saved.");
   }
   const std::string name = OutputName(state, "data.svy");

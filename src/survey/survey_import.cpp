@@ -2,7 +2,6 @@
 
 #include "survey/statistics.h"
 #include "toolkit/file_store.h"
-#include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
 
 #include <system_error>
@@ -62,9 +61,7 @@ void ImportSurvey(SurveyState& state, const ImportRequest& request, const Import
   state.Signal2 = std::move(survey.Signal2);
   state.RowNumber = std::move(survey.RowNumber);
   state.ImportFileName = request.FileName;
-  state.SurveyType = request.Layout.Transect ? "Transect" : "Grid";
-  state.LblSC = NumberToString(state.SignalCount);
-  state.SignalTransformText = request.Log ? "natural log" : "none";
+  state.Kind = request.Layout.Transect ? SurveyKind::Transect : SurveyKind::Grid;
   UpdateSignalStats(state);
   state.Menu.Apply(WorkflowEvent::SurveyImported);
 }

@@ -4,7 +4,12 @@ namespace veln {
 
 bool IsTransect(const SurveyState& state)
 {
-  return state.SurveyType == "Transect";
+  return state.Kind == SurveyKind::Transect;
+}
+
+bool HasDesign(const SurveyState& state)
+{
+  return state.DesignCount > 0 || state.ManualDesignDone;
 }
 
 std::filesystem::path OutputPath(const SurveyState& state, const std::string& suffix)

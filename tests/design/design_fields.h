@@ -23,8 +23,6 @@ inline SurveyState HandField(const std::vector<HandSite>& sites, int signals = 1
   SurveyState state = NamedState(programDir);
   state.SurveySize = static_cast<int>(sites.size());
   state.SignalCount = signals;
-  state.SurveyType = "Grid";
-  state.LblSC = signals == 2 ? " 2" : " 1";
   for (std::size_t i = 0; i < sites.size(); ++i) {
     state.SiteId.push_back(static_cast<std::int16_t>(101 + i));
     state.CoordX.push_back(sites[i].X);

@@ -72,7 +72,7 @@ TEST_F(DesignFiles, TransectOfTwoSignalsAndTwelveSitesInAStratum)
   sites[12].X = 123456.1234567;
   sites[13].X = 1234567.1234567;
   SurveyState state = HandField(sites, 2, directory_.Path());
-  state.SurveyType = "Transect";
+  state.Kind = SurveyKind::Transect;
   state.RowNumber = {1, 1, 1, 1, 1, 1, 1, 2, 2, 2, 2, 2, 2, 2};
   state.TransitionDone = true;
   DesignSettings settings;
@@ -86,7 +86,7 @@ TEST_F(DesignFiles, TransectOfTwoSignalsAndTwelveSitesInAStratum)
   EXPECT_EQ(Written("ab12rsd1.txt"), Golden("transect_two_signals_rsd1.txt"));
   EXPECT_EQ(Written("ab12gps1.txt"), Golden("transect_two_signals_gps1.txt"));
   EXPECT_EQ(Written("ab12xrs1.asc"), Golden("transect_two_signals_xrs1.asc"));
-  EXPECT_EQ(state.Designs.Rows[0], (DesignRow{" 12", " 1.23"}));
+  EXPECT_EQ(state.Designs[0], (DesignFacts{12, 1.234}));
 }
 
 TEST_F(DesignFiles, SecondDesignOfFiveSitesWithoutSupport)
@@ -104,9 +104,8 @@ TEST_F(DesignFiles, SecondDesignOfFiveSitesWithoutSupport)
   SaveSamInfo(state, {design, 5, "(Total Survey Size =  17   Active Survey Size =  11)"}, dialogs_,
               FixedClock);
   EXPECT_EQ(Written("ab12rsd2.txt"), Golden("without_support_rsd2.txt"));
-  EXPECT_TRUE(state.Designs.Visible);
-  EXPECT_EQ(state.Designs.Rows[0], DesignRow{});
-  EXPECT_EQ(state.Designs.Rows[1], (DesignRow{" 5", " .98"}));
+  EXPECT_EQ(state.Designs[0], DesignFacts{});
+  EXPECT_EQ(state.Designs[1], (DesignFacts{5, 0.984}));
 }
 
 TEST_F(DesignFiles, EverySiteWithTheCodeJoinsTheDesign)

@@ -111,8 +111,7 @@ TEST_F(ManualDesign, FileOfOneSignal)
             (Lines{"inform: User generated sampling design information has been saved to ab12ugsd.txt"}));
   EXPECT_TRUE(form_.Closed);
   EXPECT_TRUE(state_.ManualDesignDone);
-  EXPECT_TRUE(state_.Designs.Visible);
-  EXPECT_EQ(state_.Designs.Lblssmdn, " 2");
+  EXPECT_EQ(state_.ManualDesignSize, 2);
   EXPECT_FALSE(state_.Menu.IsEnabled(MenuEntry::mnuMask));
   EXPECT_TRUE(state_.Menu.IsEnabled(MenuEntry::mnuSHowMap));
   EXPECT_EQ(state_.SiteStatus, (std::vector<std::int16_t>{6, 0, 6}));

@@ -132,25 +132,17 @@ TEST_F(FrmMain, ShowsEachCardWhenItsStepHasRun)
 TEST_F(FrmMain, ShowsTheTextsOfTheRecord)
 {
   SurveyState state = AcceptedSurvey(TransectSurvey(8, 10));
-  state.Algorithms = {true, "invoked", "none"};
-  state.Designs.Visible = true;
-  state.Designs.Rows[1] = {" 12", " .98"};
+  state.Algorithms = {AlgorithmState::Invoked, AlgorithmState::NotAsked};
+  state.Signals.Rows[0].Statistics.Maximum = 79.5;
+  state.Signals.Correlation = 0.83125;
+  state.DesignCount = 2;
+  state.Designs[1] = {12, 0.984};
   Set(state);
-  const std::pair<const char*, std::string> texts[] = {{"LblFD", "North field"},
-                                                       {"LblPS", "farm"},
-                                                       {"LblID", "ab12"},
-                                                       {"LblIF", "raw.txt"},
-                                                       {"LblFT", "Transect"},
-                                                       {"LblSS", "80"},
-                                                       {"LblSC", " 2"},
-                                                       {"LblST", "none"},
-                                                       {"LblNm2", "EMh"},
-                                                       {"LblMx1", state.Signals.Rows[0].LblMx},
-                                                       {"LblCorr", state.Signals.LblCorr},
-                                                       {"Lblostd", "4.50"},
-                                                       {"LblEB", "invoked"},
-                                                       {"Label21", "none"},
-                                                       {"Lblssoc2", " .98"}};
+  const std::pair<const char*, std::string> texts[] = {
+      {"LblFD", "North field"}, {"LblPS", "farm"},    {"LblID", "ab12"},     {"LblIF", "raw.txt"},
+      {"LblFT", "Transect"},    {"LblSS", "80"},      {"LblSC", " 2"},       {"LblST", "none"},
+      {"LblNm2", "EMh"},        {"LblMx1", "79.500"}, {"LblCorr", "0.8313"}, {"Lblostd", "4.50"},
+      {"LblEB", "invoked"},     {"Label21", "none"},  {"Lblssoc2", " .98"}};
   for (const auto& [label, text] : texts) {
     EXPECT_EQ(Text("frmMain", label), text) << label;
   }

@@ -67,7 +67,7 @@ TEST_F(FrmSigDecorr, BarsStayLiveBehindARunAndKeepTheFocus)
   QTest::keyClick(&Bar("HScroll1"), Qt::Key_Right);
   EXPECT_EQ(TextOf("Text1"), "3.55");
   EXPECT_EQ(Window("frmSigDecorr")->focusWidget(), &Bar("HScroll1"));
-  EXPECT_EQ(Shared.State.Decorrelation.Lblmstd, "3.50");
+  EXPECT_EQ(Shared.State.Decorrelation.Levels.Masking, 350);
 }
 
 TEST_F(FrmSigDecorr, ReopeningShowsTheLevelsOfTheLastRun)

@@ -105,7 +105,7 @@ TEST_F(FrmSigVal, AcceptanceRunsTheOptionsAsked)
   Click("frmSigVal", "Command2");
   EXPECT_EQ(Window("frmSigVal"), nullptr);
   EXPECT_EQ(Window("frmSigDecorr"), nullptr);
-  EXPECT_TRUE(Shared.State.Algorithms == (AlgorithmPanel{true, "invoked", "invoked"}));
+  EXPECT_TRUE(Shared.State.Algorithms == (AlgorithmFacts{AlgorithmState::Invoked, AlgorithmState::Invoked}));
   EXPECT_TRUE(std::filesystem::exists(Directory / "data" / "farm" / "ab12tstd.std"));
   EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }

@@ -11,7 +11,6 @@ SurveyState StateAfter(std::initializer_list<WorkflowEvent> events, int sites = 
   SurveyState state;
   state.SurveySize = sites;
   state.SiteStatus.assign(static_cast<std::size_t>(sites), site_status::Free);
-  state.Decorrelation.Lblostdcnt = "0";
   for (const WorkflowEvent event : events) {
     state.Menu.Apply(event);
   }
@@ -32,7 +31,7 @@ TEST(NextStep, TellsWhatValidationHasToDecide)
   SurveyState state = StateAfter({SurveyImported, SignalsDecorrelated}, 100);
   EXPECT_EQ(NextStep(state), "Next: validate and accept 100 sites");
   state.SiteStatus[3] = site_status::Outlier;
-  state.Decorrelation.Lblostdcnt = "1";
+  state.Decorrelation.Counts.OutlierCount = 1;
   EXPECT_EQ(NextStep(state), "Next: validate 100 sites: delete 1 outlier, or accept them as masked");
   state.SiteStatus.erase(state.SiteStatus.begin() + 3);
   state.SurveySize = 99;

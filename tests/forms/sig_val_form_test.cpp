@@ -6,10 +6,10 @@
 namespace veln {
 namespace {
 
-SurveyState SurveyWith(RawSurvey survey, const char* outliers)
+SurveyState SurveyWith(RawSurvey survey, int outliers)
 {
   SurveyState state = DecorrelatedSurvey(std::move(survey));
-  state.Decorrelation.Lblostdcnt = outliers;
+  state.Decorrelation.Counts.OutlierCount = outliers;
   return state;
 }
 
@@ -27,7 +27,7 @@ TEST(SigValForm, OpensOnDeletionWithOutliersAndOnAcceptanceWithout)
     return std::string(form.Option2Caption()) + "|" + form.Option2ToolTip() + "|" + form.Command2Caption() +
            "|" + form.Command2ToolTip();
   };
-  SigValForm form = LoadSigValForm(SurveyWith(TransectSurvey(5, 12), "1"));
+  SigValForm form = LoadSigValForm(SurveyWith(TransectSurvey(5, 12), 1));
   EXPECT_TRUE(form.Option1Enabled && form.Option1 && !form.Option2);
   ExpectTransectOptions(form, false);
   EXPECT_EQ(form.LblRC, "Row Count = n/a");
@@ -36,7 +36,7 @@ TEST(SigValForm, OpensOnDeletionWithOutliersAndOnAcceptanceWithout)
             " indicates that all outlier sites should be masked (but not deleted) |Invoke Validation|"
             " perform the validation actions selected above on the decorrelated signal data ");
 
-  SurveyState grid = SurveyWith(GridSurvey(10, 5), "0");
+  SurveyState grid = SurveyWith(GridSurvey(10, 5), 0);
   grid.SiteStatus[3] = site_status::Masked;  // no outlier
   form = LoadSigValForm(grid);
   EXPECT_TRUE(!form.Option1Enabled && !form.Option1 && form.Option2);
@@ -45,12 +45,12 @@ TEST(SigValForm, OpensOnDeletionWithOutliersAndOnAcceptanceWithout)
             "no outliers detected:  current signal data configuration can be accepted|"
             "the current data configuration is acceptable|Accept Configuration|"
             "accept current data configuration and return to main program menu");
-  ExpectTransectOptions(LoadSigValForm(SurveyWith(TransectSurvey(5, 12), "0")), true);
+  ExpectTransectOptions(LoadSigValForm(SurveyWith(TransectSurvey(5, 12), 0)), true);
 }
 
 TEST(SigValForm, DeletionClosesTheTransectOptionsAndAcceptanceBringsTheTickBack)
 {
-  const SurveyState state = SurveyWith(TransectSurvey(5, 12), "2");
+  const SurveyState state = SurveyWith(TransectSurvey(5, 12), 2);
   SigValForm form = LoadSigValForm(state);
   ChooseAcceptance(form, state);
   ExpectTransectOptions(form, true);
@@ -70,7 +70,7 @@ TEST(SigValForm, DeletionClosesTheTransectOptionsAndAcceptanceBringsTheTickBack)
 
 TEST(SigValForm, EdgeBufferingStartsWithTheRowsAndAsksForWhatIsSelected)
 {
-  SigValForm form = LoadSigValForm(SurveyWith(TransectSurvey(5, 12), "0"));
+  SigValForm form = LoadSigValForm(SurveyWith(TransectSurvey(5, 12), 0));
   EXPECT_FALSE(form.Options().EdgeBuffering);
   TickEdgeBuffering(form, true);
   EXPECT_TRUE(form.OptEBEnabled && form.OptEB1 && !form.OptEB2);

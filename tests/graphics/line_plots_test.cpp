@@ -13,7 +13,7 @@ SurveyState ThreeRows()
   SurveyState state =
       SitesAt({0, 5, 10, 3, 0, 10}, {0, 0, 0, 10, 20, 20}, {1, 2, 5, 3, 2, 4}, {3, 4, 5, 6, 7, 9});
   state.RowNumber = {4, 4, 4, 9, 4, 4};
-  state.SurveyType = "Transect";
+  state.Kind = SurveyKind::Transect;
   return state;
 }
 

@@ -106,7 +106,7 @@ TEST(Decorrelation, ShowsCountsAndMovesTheMenu)
   state.DeletedSiteCount = 3;
   state.ValidationCount = 1;
   DecorrelateSignals(state, {300, 425});
-  EXPECT_TRUE(state.Decorrelation == (DecorrelationPanel{true, "3.00", "3", "4.25", "2", "3", "1"}));
+  EXPECT_TRUE(state.Decorrelation == (DecorrelationFacts{{300, 425}, {1, 2}}));
   EXPECT_TRUE(state.DecorrDone && state.Menu.IsEnabled(mnuSigD) && state.Menu.IsEnabled(mnuSigV));
   EXPECT_FALSE(state.Menu.IsEnabled(mnuStats));
 }

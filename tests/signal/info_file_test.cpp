@@ -20,16 +20,18 @@ SurveyState TwoSignalTransect()
   state.FieldId = "ab12";
   state.FieldDescription = "North field, dry";
   state.ImportFileName = "in/raw.txt";
-  state.SurveyType = "Transect";
-  state.SignalTransformText = "none";
+  state.Kind = SurveyKind::Transect;
   state.SurveySize = 1498;
   state.SignalCount = 2;
   state.RowNumber = {1, 1, 4};
-  state.Signals.Rows = {SignalRow{"EMv", "1498", "61.234", "20.500", "8.000", "123.456"},
-                        SignalRow{"EMh", "1498", "-5.000", "9.125", "-40.250", "7.000"}};
-  state.Signals.LblCorr = "0.8312";
-  state.Decorrelation = {true, "3.50", "13", "4.50", "3", "2", "1"};
-  state.Algorithms = {true, "none", "invoked"};
+  state.Signals.Rows = {SignalFacts{"EMv", {{61.234, 20.5, 1498}, {8, 123.456}}},
+                        SignalFacts{"EMh", {{-5, 9.125, 1498}, {-40.25, 7}}}};
+  state.Signals.Correlation = 0.8312;
+  state.DecorrDone = true;
+  state.Decorrelation = {{350, 450}, {10, 3}};
+  state.DeletedSiteCount = 2;
+  state.ValidationCount = 1;
+  state.Algorithms = {AlgorithmState::NotAsked, AlgorithmState::Invoked};
   return state;
 }
 
@@ -79,13 +81,13 @@ TEST(InfoFile, OfTwoSignalsHasTwoColumnsThatEndAt24And44)
 TEST(InfoFile, OfOneSignalWrapsValuesOfMoreThanTenCharacters)
 {
   SurveyState state = TwoSignalTransect();
-  state.SurveyType = "Grid";
+  state.Kind = SurveyKind::Grid;
   state.RowNumber.clear();
   state.SignalCount = 1;
   state.SignalUnits = "dS/m";
-  state.SignalTransformText = "natural log";
-  state.Signals.Rows[0] = {"log(EMv)", "1498", "123456.000", "1234567.000", "8.000", "-123456.000"};
-  state.Algorithms = {true, "n/a", "n/a"};
+  state.LogTransform = true;
+  state.Signals.Rows[0] = {"log(EMv)", {{123456, 1234567, 1498}, {8, -123456}}};
+  state.Algorithms = {AlgorithmState::NotApplicable, AlgorithmState::NotApplicable};
   EXPECT_EQ(InfoFile(state),
             Head("File Type:       Grid\r\n"
                  "Survey Size:     1498 \r\n"
@@ -107,14 +109,12 @@ TEST(InfoFile, OfOneSignalWrapsValuesOfMoreThanTenCharacters)
 TEST(InfoFile, LongValuesKeepTheirRightEndAndWrapOnceTheyMeetWhatStandsBefore)
 {
   SurveyState state = TwoSignalTransect();
-  const std::string seventeen = "1234567890123.000";
-  const std::string twenty = "1234567890123456.000";
-  state.Signals.Rows[0].LblMu = seventeen;
-  state.Signals.Rows[1].LblMu = twenty;
-  state.Signals.Rows[0].LblStd = "1" + seventeen;
-  state.Signals.Rows[1].LblStd = "1" + twenty;
-  state.Signals.Rows[0].LblMn = "12" + seventeen;
-  state.Signals.Rows[0].LblMx = "12345" + twenty;  // its column would lie in front of the line's first
+  const std::string seventeen = "1234567890000.000";
+  const std::string twenty = "1234567890000000.000";
+  // The last value's column would lie in front of the line's first.
+  state.Signals.Rows[0].Statistics = {{1234567890E+3, 11234567890E+3, 1498},
+                                      {121234567890E+3, 123451234567890E+6}};
+  state.Signals.Rows[1].Statistics = {{1234567890E+6, 11234567890E+6, 1498}, {-40.25, 7}};
   const std::string text = InfoFile(state);
   EXPECT_THAT(text, HasSubstr("\r\n   Mean" + seventeen + twenty + "\r\n   Std"));
   EXPECT_THAT(text, HasSubstr("\r\n   Std1" + seventeen + "\r\n" + Blanks(23) + "1" + twenty + "\r\n"));
@@ -125,11 +125,11 @@ TEST(InfoFile, LongValuesKeepTheirRightEndAndWrapOnceTheyMeetWhatStandsBefore)
 TEST(InfoFile, LongLabelsCountCharactersAndWrapBehindTwenty)
 {
   SurveyState state = TwoSignalTransect();
-  state.Signals.Rows[0].LblNm = "Leitf\xC3\xA4higkeit tief 1";  // 20 characters, 21 bytes
+  state.Signals.Rows[0].Label = "Leitf\xC3\xA4higkeit tief 1";  // 20 characters, 21 bytes
   EXPECT_THAT(InfoFile(state), HasSubstr("\r\n" + Blanks(19) +
                                          "Leitf\xC3\xA4higkeit tief 1"
                                          "EMh\r\n"));
-  state.Signals.Rows[0].LblNm += "2";
+  state.Signals.Rows[0].Label += "2";
   EXPECT_THAT(InfoFile(state), HasSubstr(" tief 12\r\n" + Blanks(39) + "EMh\r\n"));
 }
 

@@ -19,25 +19,22 @@ void MarkOutliers(SurveyState& state, const std::vector<std::size_t>& sites)
   for (const std::size_t site : sites) {
     state.SiteStatus.at(site) = site_status::Outlier;
   }
-  state.Decorrelation.Lblostdcnt = std::to_string(sites.size());
+  state.Decorrelation.Counts.OutlierCount = static_cast<int>(sites.size());
 }
 
 /// The record without these sites, told from the highest to the lowest.
 SurveyState Without(SurveyState state, const std::vector<std::size_t>& sites)
 {
-  const auto erase = [&sites](auto& column) {
-    for (const std::size_t site : sites) {
-      if (!column.empty()) {
-        column.erase(column.begin() + static_cast<std::ptrdiff_t>(site));
-      }
-    }
-  };
-  for (auto* column :
-       {&state.CoordX, &state.CoordY, &state.Signal1, &state.Signal2, &state.Decorr1, &state.Decorr2}) {
-    erase(*column);
-  }
-  for (auto* column : {&state.SiteId, &state.RowNumber, &state.SiteStatus}) {
-    erase(*column);
+  for (const std::size_t site : sites) {
+    const auto erase = [&](auto... columns) {
+      const auto eraseFrom = [site](auto& column) {
+        if (!column.empty()) {
+          column.erase(column.begin() + static_cast<std::ptrdiff_t>(site));
+        }
+      };
+      (eraseFrom(state.*columns), ...);
+    };
+    std::apply(erase, AllSiteColumns);
   }
   state.SurveySize -= static_cast<int>(sites.size());
   return state;
@@ -52,19 +49,15 @@ TEST(OutlierDeletion, ClosesUpAllColumnsAndAddsUpOverIterations)
     SurveyState expected = Without(state, {65, 40, 11, 10, 0});
     expected.DeletedSiteCount = 5;
     expected.ValidationCount = 1;
-    expected.Decorrelation.LblDcnt = "5";
-    expected.Decorrelation.LblVcnt = "1";
     UpdateSignalStats(expected);
     EXPECT_EQ(DeleteOutliers(state), 5);
     EXPECT_TRUE(state == expected);
-    EXPECT_EQ(state.Decorrelation.Lblostdcnt, "5");
-    EXPECT_EQ(state.Signals.Rows[0].LblSz, "61");
+    EXPECT_EQ(state.Signals.Rows[0].Statistics.Count, 61);
 
     DecorrelateSignals(state, {});
     MarkOutliers(state, {3, 4});
     DeleteOutliers(state);
-    EXPECT_EQ(state.DeletedSiteCount, 7);
-    EXPECT_EQ(state.Decorrelation.LblDcnt + state.Decorrelation.LblVcnt, "72");
+    EXPECT_EQ(std::pair(state.DeletedSiteCount, state.ValidationCount), std::pair(7, 2));
   }
 }
 
@@ -98,7 +91,7 @@ TEST_F(Acceptances, OfAGridMasksOutliersWritesTheInfoFileAndOpensTheDesign)
   state.SiteStatus[8] = site_status::Masked;
   SurveyState expected = state;
   expected.SiteStatus[7] = site_status::Masked;
-  expected.Algorithms = {true, "n/a", "n/a"};
+  expected.Algorithms = {AlgorithmState::NotApplicable, AlgorithmState::NotApplicable};
   expected.Menu.Apply(WorkflowEvent::ConfigurationAccepted);
   ScriptedDialogs dialogs;
   const Acceptance done = AcceptConfiguration(state, {}, dialogs, Noon);
@@ -135,7 +128,7 @@ TEST_F(Acceptances, WithoutOptionsShowNoneAndANoWritesNoTransitionFile)
   SurveyState again = state;
   ScriptedDialogs dialogs({false});
   AcceptConfiguration(state, {}, dialogs, Noon);
-  EXPECT_TRUE(state.Algorithms == (AlgorithmPanel{true, "none", "none"}));
+  EXPECT_TRUE(state.Algorithms == (AlgorithmFacts{AlgorithmState::NotAsked, AlgorithmState::NotAsked}));
   AcceptConfiguration(again, {false, true}, dialogs, Noon);
   EXPECT_THAT(dialogs.Said.at(1), HasSubstr("Note:   12 sites were masked"));
   EXPECT_THAT(ListFiles(Project()), ElementsAre("ab12info.txt"));

@@ -131,7 +131,7 @@ inline SurveyState ImportedSurvey(RawSurvey survey, const std::filesystem::path&
   state.SurveySize = static_cast<int>(survey.SiteId.size());
   state.SignalCount = survey.Signal2.empty() ? 1 : 2;
   state.SignalLabel = {"EMv", "EMh"};
-  state.SurveyType = survey.RowNumber.empty() ? "Grid" : "Transect";
+  state.Kind = survey.RowNumber.empty() ? SurveyKind::Grid : SurveyKind::Transect;
   state.SiteStatus.assign(survey.SiteId.size(), site_status::Free);
   state.SiteId = std::move(survey.SiteId);
   state.CoordX = std::move(survey.CoordX);
@@ -140,8 +140,6 @@ inline SurveyState ImportedSurvey(RawSurvey survey, const std::filesystem::path&
   state.Signal2 = std::move(survey.Signal2);
   state.RowNumber = std::move(survey.RowNumber);
   state.ImportFileName = "raw.txt";
-  state.LblSC = state.SignalCount == 2 ? " 2" : " 1";
-  state.SignalTransformText = "none";
   UpdateSignalStats(state);
   state.Menu.Apply(WorkflowEvent::SurveyImported);
   return state;
@@ -164,8 +162,8 @@ inline SurveyState AcceptedSurvey(RawSurvey survey, const DecorrelationLevels& l
   for (std::int16_t& status : state.SiteStatus) {
     status = status == site_status::Outlier ? site_status::Masked : status;
   }
-  const char* notRun = IsTransect(state) ? "none" : "n/a";
-  state.Algorithms = {true, notRun, notRun};
+  const auto notRun = IsTransect(state) ? AlgorithmState::NotAsked : AlgorithmState::NotApplicable;
+  state.Algorithms = {notRun, notRun};
   state.Menu.Apply(WorkflowEvent::ConfigurationAccepted);
   return state;
 }

@@ -47,21 +47,20 @@ TEST(SignalTransform, LogAndScaleInOneStepAddTheLogarithmOfTheFactor)
   EXPECT_EQ(state.Signal1[7], std::log(before.Signal1[7]) + std::log(0.01));
   EXPECT_EQ(state.Signal2[7], std::log(before.Signal2[7]) + std::log(0.01));
   EXPECT_TRUE(state.LogTransform);
-  EXPECT_EQ(state.SignalTransformText, "natural log");
   EXPECT_EQ(state.SignalUnits, "dS/m");
-  EXPECT_EQ(state.Signals.Rows[1].LblNm, "two");
+  EXPECT_EQ(state.Signals.Rows[1].Label, "two");
 
   form = LoadBasicStatsForm(state);
   form.Check2 = true;
   ComputeSignals(state, form);
   EXPECT_NEAR(state.Signal1[7], before.Signal1[7] / 100, 1E-14);
-  EXPECT_EQ(state.SignalTransformText, "none");
+  EXPECT_FALSE(state.LogTransform);
   form = LoadBasicStatsForm(state);
   form.Check3 = true;
   ComputeSignals(state, form);
   EXPECT_NEAR(state.Signal2[7], before.Signal2[7], 1E-12);
   EXPECT_EQ(state.SignalUnits, "mS/m");
-  EXPECT_EQ(state.Signals.Rows[0].LblMu, before.Signals.Rows[0].LblMu);
+  EXPECT_NEAR(state.Signals.Rows[0].Statistics.Mean, before.Signals.Rows[0].Statistics.Mean, 1E-12);
 }
 
 TEST(SignalTransform, RefusalLetsTheLabelsStandAndNothingElse)
@@ -89,7 +88,7 @@ TEST(SignalTransform, ValuesThatLeaveTheDoublesAreRefused)
   RawSurvey large = GridSurvey(10, 5);
   large.Signal1[3] = large.Signal2[4] = 3E+75;
   SurveyState state = ImportedSurvey(large);
-  ASSERT_NE(state.Signals.LblCorr, "");
+  ASSERT_TRUE(state.Signals.Correlation);
   BasicStatsForm form = LoadBasicStatsForm(state);
   form.Check3 = true;
   EXPECT_THAT(RefusalWithLabels(state, form), StartsWith("Error!  The changed signal data"));

@@ -7,15 +7,15 @@ namespace veln {
 namespace {
 
 /// Two sites with values that meet the rounding of each column.
-SurveyState TwoSites(const char* surveyType, int signals)
+SurveyState TwoSites(SurveyKind kind, int signals)
 {
   SurveyState state;
   state.SurveySize = 2;
   state.SignalCount = signals;
-  state.SurveyType = surveyType;
-  state.SignalTransformText = "natural log";
-  state.Signals.Rows[0].LblNm = "log(EMv)";
-  state.Signals.Rows[1].LblNm = "log(EMh)";
+  state.Kind = kind;
+  state.LogTransform = true;
+  state.Signals.Rows[0].Label = "log(EMv)";
+  state.Signals.Rows[1].Label = "log(EMh)";
   state.SiteId = {1, -7};
   state.RowNumber = {3, 250};
   state.SiteStatus = {0, 7};
@@ -31,21 +31,21 @@ SurveyState TwoSites(const char* surveyType, int signals)
 TEST(SurveyExport, HasRowNumbersInATransectAndTwoMoreColumnsForASecondSignal)
 {
   const std::string twoSignals = "\"log(EMv)\",\"log(EMh)\",\"1st-PCS\",\"2nd-PCS\"\r\n";
-  EXPECT_EQ(ComposeSurveyExport(TwoSites("Transect", 2)),
+  EXPECT_EQ(ComposeSurveyExport(TwoSites(SurveyKind::Transect, 2)),
             "2,4,\"T\",\"log\"\r\n" + twoSignals +
                 " 1    3    0    345.1    20    .5   -.25    0    1.23457 \r\n"
                 "-7    250    7    1234.5   -1234.567891    2    12.34568    0   -3 \r\n");
-  EXPECT_EQ(ComposeSurveyExport(TwoSites("Grid", 2)),
+  EXPECT_EQ(ComposeSurveyExport(TwoSites(SurveyKind::Grid, 2)),
             "2,4,\"G\",\"log\"\r\n" + twoSignals +
                 " 1    0    345.1    20    .5   -.25    0    1.23457 \r\n"
                 "-7    7    1234.5   -1234.567891    2    12.34568    0   -3 \r\n");
-  SurveyState untransformed = TwoSites("Transect", 1);
-  untransformed.SignalTransformText = "none";
+  SurveyState untransformed = TwoSites(SurveyKind::Transect, 1);
+  untransformed.LogTransform = false;
   EXPECT_EQ(ComposeSurveyExport(untransformed),
             "2,3,\"T\",\"none\"\r\n\"log(EMv)\",\"1st-PCS\"\r\n"
             " 1    3    0    345.1    20    .5    0 \r\n"
             "-7    250    7    1234.5   -1234.567891    2    0 \r\n");
-  EXPECT_EQ(ComposeSurveyExport(TwoSites("Grid", 1)),
+  EXPECT_EQ(ComposeSurveyExport(TwoSites(SurveyKind::Grid, 1)),
             "2,3,\"G\",\"log\"\r\n\"log(EMv)\",\"1st-PCS\"\r\n"
             " 1    0    345.1    20    .5    0 \r\n"
             "-7    7    1234.5   -1234.567891    2    0 \r\n");

@@ -73,7 +73,7 @@ TEST_F(SurveyImport, OneConstantSignalIsTaken)
   std::ranges::fill(survey.Signal1, 0.1);
   SurveyState state = NamedState();
   ImportSurvey(state, RequestFor(survey, LayoutOf(survey)));
-  EXPECT_EQ(state.Signals.Rows[0].LblStd, "0.000");
+  EXPECT_NEAR(state.Signals.Rows[0].Statistics.Std, 0, 1E-15);
 }
 
 TEST(StructureForm, TransformOverwritesLabelsAndUnitsAreAPair)

@@ -3,6 +3,7 @@
 #include "desktop/parts/controls.h"
 #include "desktop/parts/text_roles.h"
 #include "desktop/signal/frm_list.h"
+#include "workspace/captions.h"
 
 #include <QGridLayout>
 #include <QGroupBox>

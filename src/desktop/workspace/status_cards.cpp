@@ -1,6 +1,8 @@
 #include "desktop/workspace/status_cards.h"
 
 #include "desktop/parts/controls.h"
+#include "toolkit/number_text.h"
+#include "workspace/captions.h"
 #include "workspace/survey_state.h"
 
 #include <QGridLayout>
@@ -114,14 +116,15 @@ void MirrorProject(QGroupBox& card, const SurveyState& state)
   Show(card, "LblPS", state.ProjectName);
   Show(card, "LblID", state.FieldId);
   Show(card, "LblIF", state.ImportFileName);
-  Show(card, "LblFT", state.SurveyType);
-  Show(card, "LblSS", state.LblSS);
-  Show(card, "LblSC", state.LblSC);
-  Show(card, "LblST", state.SignalTransformText);
+  const bool imported = state.SurveySize > 0;
+  Show(card, "LblFT", imported ? SurveyTypeText(state.Kind) : "");
+  Show(card, "LblSS", imported ? GeneralForm(state.SurveySize) : "");
+  Show(card, "LblSC", imported ? NumberToString(state.SignalCount) : "");
+  Show(card, "LblST", imported ? SignalTransformText(state.LogTransform) : "");
   SetShown(card,
            {"LblIFCaption", "LblIF", "LblFTCaption", "LblFT", "LblSSCaption", "LblSS", "LblSCCaption",
             "LblSC", "LblSTCaption", "LblST"},
-           state.SurveySize > 0);
+           imported);
 }
 
 QGroupBox* MakeSignalCard(QWidget* parent)
@@ -151,7 +154,8 @@ QGroupBox* MakeSignalCard(QWidget* parent)
 void MirrorSignals(QGroupBox& card, const SignalPanel& panel)
 {
   int number = 1;
-  for (const SignalRow& row : panel.Rows) {
+  for (const SignalFacts& signal : panel.Rows) {
+    const SignalTexts row = TextsOf(signal);
     const std::string suffix = std::to_string(number++);
     Show(card, ("LblNm" + suffix).c_str(), row.LblNm);
     Show(card, ("LblSz" + suffix).c_str(), row.LblSz);
@@ -160,9 +164,9 @@ void MirrorSignals(QGroupBox& card, const SignalPanel& panel)
     Show(card, ("LblMn" + suffix).c_str(), row.LblMn);
     Show(card, ("LblMx" + suffix).c_str(), row.LblMx);
   }
-  Show(card, "LblCorr", panel.LblCorr);
+  Show(card, "LblCorr", PanelCorrelation(panel));
   SetShown(card, {"Label13", "LblCorr", "LblNm2", "LblSz2", "LblMu2", "LblStd2", "LblMn2", "LblMx2"},
-           panel.CorrVisible);
+           panel.Rows[1].Statistics.Count > 0);
 }
 
 QGroupBox* MakeDecorrelationCard(QWidget* parent)
@@ -182,7 +186,7 @@ QGroupBox* MakeDecorrelationCard(QWidget* parent)
   return card;
 }
 
-void MirrorDecorrelation(QGroupBox& card, const DecorrelationPanel& panel)
+void MirrorDecorrelation(QGroupBox& card, const DecorrelationTexts& panel)
 {
   Show(card, "Lblmstd", panel.Lblmstd);
   Show(card, "Lblmstdcnt", panel.Lblmstdcnt);
@@ -200,6 +204,12 @@ QGroupBox* MakeAlgorithmCard(QWidget* parent)
   GridOf(*card).setColumnStretch(1, 1);
   GridOf(*card).setColumnStretch(3, 1);
   return card;
+}
+
+void MirrorAlgorithms(QGroupBox& card, const AlgorithmFacts& algorithms)
+{
+  Show(card, "LblEB", AlgorithmText(algorithms.EdgeBuffering));
+  Show(card, "Label21", AlgorithmText(algorithms.TransitionAnalysis));
 }
 
 constexpr int FirstDesignLabel = 27;  // `Label27` to `Label31`
@@ -229,20 +239,21 @@ QGroupBox* MakeDesignCard(QWidget* parent)
   return card;
 }
 
-void MirrorDesigns(QGroupBox& card, const DesignPanel& panel)
+void MirrorDesigns(QGroupBox& card, const SurveyState& state)
 {
   int design = 1;
-  for (const DesignRow& row : panel.Rows) {
+  for (const DesignFacts& saved : state.Designs) {
+    const DesignTexts row = TextsOf(saved);
     const std::string number = std::to_string(design);
     const std::string size = "Lblss" + number + "n";
     const std::string criterion = "Lblssoc" + number;
     Show(card, size.c_str(), row.Lblssn);
     Show(card, criterion.c_str(), row.Lblssoc);
-    SetShown(card, {DesignLabel(design).c_str(), size.c_str(), criterion.c_str()}, !row.Lblssn.empty());
+    SetShown(card, {DesignLabel(design).c_str(), size.c_str(), criterion.c_str()}, saved.SampleSize > 0);
     ++design;
   }
-  Show(card, "Lblssmdn", panel.Lblssmdn);
-  SetShown(card, {"Lblssmdc", "Lblssmd", "Lblssmdn"}, !panel.Lblssmdn.empty());
+  Show(card, "Lblssmdn", state.ManualDesignDone ? NumberToString(state.ManualDesignSize) : "");
+  SetShown(card, {"Lblssmdc", "Lblssmd", "Lblssmdn"}, state.ManualDesignDone);
 }
 
 }  // namespace
@@ -267,10 +278,9 @@ QWidget* StatusCards::Mirror(const SurveyState& state)
 {
   MirrorProject(*project_, state);
   MirrorSignals(*signals_, state.Signals);
-  MirrorDecorrelation(*decorrelation_, state.Decorrelation);
-  Show(*algorithms_, "LblEB", state.Algorithms.LblEB);
-  Show(*algorithms_, "Label21", state.Algorithms.Label21);
-  MirrorDesigns(*designs_, state.Designs);
+  MirrorDecorrelation(*decorrelation_, DecorrelationTextsOf(state));
+  MirrorAlgorithms(*algorithms_, state.Algorithms.value_or(AlgorithmFacts{}));
+  MirrorDesigns(*designs_, state);
 
   QWidget* fresh = nullptr;
   const auto reveal = [&fresh](QGroupBox* card, bool visible) {
@@ -278,10 +288,10 @@ QWidget* StatusCards::Mirror(const SurveyState& state)
     card->setVisible(visible);
   };
   reveal(project_, state.ProjectShown);
-  reveal(signals_, state.Signals.Visible);
-  reveal(decorrelation_, state.Decorrelation.Visible);
-  reveal(algorithms_, state.Algorithms.Visible);
-  reveal(designs_, state.Designs.Visible);
+  reveal(signals_, state.Signals.Rows[0].Statistics.Count > 0);
+  reveal(decorrelation_, state.DecorrDone);
+  reveal(algorithms_, state.Algorithms.has_value());
+  reveal(designs_, HasDesign(state));
   return fresh;
 }
 
