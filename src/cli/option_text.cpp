@@ -8,6 +8,7 @@
 #include <charconv>
 #include <cmath>
 #include <limits>
+#include <utility>
 
 namespace veln {
 
@@ -193,16 +194,16 @@ void RequirePath(const std::string& option, const std::string& text)
   }
 }
 
-void RequireText(const std::string& option, const std::string& text, std::size_t mostCharacters)
+void RequireText(const std::string& option, const std::string& text, int mostCharacters)
 {
   RequirePath(option, text);
   if (!IsUtf8(text)) {
     throw Refusal(option + ": the text is not UTF-8.", RefusalKind::Usage);
   }
-  if (CharacterCount(text) > mostCharacters) {
-    throw Refusal(option + ": \"" + text + "\" has more than" +
-                      NumberToString(static_cast<double>(mostCharacters)) + " characters.",
-                  RefusalKind::Usage);
+  if (std::cmp_greater(CharacterCount(text), mostCharacters)) {
+    throw Refusal(
+        option + ": \"" + text + "\" has more than" + NumberToString(mostCharacters) + " characters.",
+        RefusalKind::Usage);
   }
 }
 

@@ -49,7 +49,7 @@ SelectionOption ReadSelection(const std::string& option, const std::string& text
 std::vector<double> ReadSiteNumbers(const std::string& option, const std::string& text);
 
 /// Text that files carry: UTF-8 without a line break, of at most `mostCharacters`.
-void RequireText(const std::string& option, const std::string& text, std::size_t mostCharacters);
+void RequireText(const std::string& option, const std::string& text, int mostCharacters);
 
 /// A path: no line break.
 void RequirePath(const std::string& option, const std::string& text);

@@ -14,9 +14,6 @@ namespace veln {
 
 namespace {
 
-constexpr std::size_t LongestLabel = 10;
-constexpr std::size_t LongestDescription = 60;
-
 /// The options as they stand on the command line, before any rule.
 struct RawOptions {
   std::string SurveyFile;

@@ -1,6 +1,7 @@
 #include "design/design_levels.h"
 
 #include "toolkit/number_text.h"
+#include "toolkit/text_lines.h"
 #include "toolkit/text_report.h"
 
 #include <cstddef>
@@ -88,12 +89,9 @@ void PutNotes(TextReport& report, const LevelListing& listing)
 
 std::vector<std::string> SplitLines(std::string_view text)
 {
-  constexpr std::string_view LineEnd = "\r\n";
   std::vector<std::string> lines;
   while (!text.empty()) {
-    const std::size_t length = text.find(LineEnd);
-    lines.emplace_back(text.substr(0, length));
-    text.remove_prefix(length + LineEnd.size());
+    lines.emplace_back(TakeLine(text));
   }
   return lines;
 }

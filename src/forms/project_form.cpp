@@ -8,13 +8,6 @@ namespace veln {
 
 namespace {
 
-constexpr std::size_t FieldIdLength = 4;
-
-bool IsLetterOrDigit(char32_t c)
-{
-  return (c >= U'0' && c <= U'9') || (c >= U'A' && c <= U'Z') || (c >= U'a' && c <= U'z');
-}
-
 void HideFieldId(ProjectForm& form)
 {
   form.Command1Visible = false;
@@ -76,7 +69,7 @@ void CreateProject(ProjectForm& form, const SurveyState& state, Dialogs& dialogs
 bool KeyInProjectName(ProjectForm& form, const Keystroke& key, Dialogs& dialogs)
 {
   const char32_t c = key.Character;
-  if (c != 0 && !IsLetterOrDigit(c) && c != U'_' && c != U'.') {
+  if (c != 0 && !IsProjectNameCharacter(c)) {
     dialogs.Beep();
     return false;
   }
@@ -86,7 +79,7 @@ bool KeyInProjectName(ProjectForm& form, const Keystroke& key, Dialogs& dialogs)
 
 bool KeyInFieldId(ProjectForm& form, const Keystroke& key, Dialogs& dialogs)
 {
-  const bool passes = key.Character == 0 || IsLetterOrDigit(key.Character);
+  const bool passes = key.Character == 0 || IsFieldIdCharacter(key.Character);
   if (!passes) {
     dialogs.Beep();
   } else {

@@ -1,5 +1,7 @@
 #include "survey/raw_items.h"
 
+#include "toolkit/text_lines.h"
+
 #include <algorithm>
 
 namespace veln {
@@ -8,7 +10,6 @@ namespace {
 
 constexpr std::string_view Blanks = " \t";
 constexpr std::string_view BlanksAndLineEnds = " \t\r\n";
-constexpr std::string_view ItemEnds = ", \t\r\n";
 
 void SkipAny(std::string_view& text, std::string_view characters)
 {
@@ -26,13 +27,8 @@ std::string_view SkipByteOrderMark(std::string_view content)
 std::size_t CountLines(std::string_view content)
 {
   std::size_t lines = 0;
-  while (!content.empty()) {
-    const std::size_t length = content.find_first_of("\r\n");
-    if (length == std::string_view::npos) {
-      return lines + 1;
-    }
-    content.remove_prefix(length + (content.substr(length, 2) == "\r\n" ? 2 : 1));
-    ++lines;
+  for (; !content.empty(); ++lines) {
+    TakeLine(content);
   }
   return lines;
 }

@@ -6,6 +6,9 @@
 
 namespace veln {
 
+/// What ends an item.
+inline constexpr std::string_view ItemEnds = ", \t\r\n";
+
 /// The content of a raw file without a leading UTF-8 byte order mark.
 std::string_view SkipByteOrderMark(std::string_view content);
 

@@ -9,25 +9,26 @@ namespace veln {
 
 namespace fs = std::filesystem;
 
-namespace {
-
-bool IsLetterOrDigit(char c)
+bool IsFieldIdCharacter(char32_t c)
 {
-  return (c >= '0' && c <= '9') || (c >= 'A' && c <= 'Z') || (c >= 'a' && c <= 'z');
+  return (c >= U'0' && c <= U'9') || (c >= U'A' && c <= U'Z') || (c >= U'a' && c <= U'z');
 }
 
-}  // namespace
+bool IsProjectNameCharacter(char32_t c)
+{
+  return IsFieldIdCharacter(c) || c == U'_' || c == U'.';
+}
 
 bool IsProjectName(std::string_view name)
 {
   return !name.empty() && name != "." && name != ".." &&
-         std::ranges::all_of(name, [](char c) { return IsLetterOrDigit(c) || c == '_' || c == '.'; });
+         std::ranges::all_of(name, [](unsigned char c) { return IsProjectNameCharacter(c); });
 }
 
 bool IsFieldId(std::string_view code)
 {
-  constexpr std::size_t Length = 4;
-  return code.size() == Length && std::ranges::all_of(code, IsLetterOrDigit);
+  return code.size() == FieldIdLength &&
+         std::ranges::all_of(code, [](unsigned char c) { return IsFieldIdCharacter(c); });
 }
 
 std::vector<std::string> ListProjects(const fs::path& programDir)

@@ -10,11 +10,19 @@
 
 namespace veln {
 
-/// One or more characters, each a digit, an ASCII letter, "_" or "."; the names "." and ".." are not
-/// projects.
+inline constexpr int FieldIdLength = 4;        ///< characters
+inline constexpr int LongestDescription = 60;  ///< characters of a field's description
+
+/// A digit or an ASCII letter.
+bool IsFieldIdCharacter(char32_t c);
+
+/// A digit, an ASCII letter, "_" or ".".
+bool IsProjectNameCharacter(char32_t c);
+
+/// One or more characters of a project's name; the names "." and ".." are not projects.
 bool IsProjectName(std::string_view name);
 
-/// Exactly 4 characters, each a digit or an ASCII letter.
+/// Exactly 4 characters of a field ID.
 bool IsFieldId(std::string_view code);
 
 /// The projects of a program directory, by name: every directory under its `data`. Throws Refusal with the

@@ -3,9 +3,12 @@
 #include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
+#include "toolkit/text_lines.h"
 #include "toolkit/text_report.h"
 
 #include <algorithm>
+#include <array>
+#include <optional>
 #include <string_view>
 
 namespace veln {
@@ -17,67 +20,65 @@ constexpr const char* DefaultTextEditor = "c:\\Windows\\write.exe ";
 #else
 constexpr const char* DefaultTextEditor = "xdg-open ";
 #endif
-constexpr double DefaultDpiFactor = 2;
 
 std::filesystem::path SettingsPath(const SurveyState& state)
 {
   return state.ProgramDir / "VELN_te_fio_info.dat";
 }
 
-/// Takes the next line off `rest`, without its end (CR LF, LF or CR). Throws Refusal at the end of the file.
-std::string_view TakeLine(std::string_view& rest)
+/// A value's line up to a comma, without its leading blanks.
+std::string FirstItem(std::string_view line)
 {
-  if (rest.empty()) {
-    throw Refusal("The file ends too early.");
-  }
-  const std::size_t length = std::min(rest.find_first_of("\r\n"), rest.size());
-  const std::string_view line = rest.substr(0, length);
-  const bool pair = rest.substr(length, 2) == "\r\n";
-  rest.remove_prefix(std::min(length + (pair ? 2 : 1), rest.size()));
-  return line;
-}
-
-/// Takes a line's first item: what stands between its leading blanks and a comma. The rest of the line is
-/// skipped.
-std::string TakeItem(std::string_view& rest)
-{
-  const std::string_view line = TakeLine(rest);
   const std::size_t first = std::min(line.find_first_not_of(' '), line.size());
   return std::string(line.substr(first, line.find(',', first) - first));
 }
 
-double TakeNumber(std::string_view& rest)
+struct StartUpSettings {
+  std::string TextEditor;
+  std::string InputPath;
+  double DpiFactor = 2;
+};
+
+/// The settings of a file of three captions, each with its value on the line behind; empty if it ends too
+/// early or the printer factor is no number.
+std::optional<StartUpSettings> ParseSettings(std::string_view rest)
 {
-  std::string item = TakeItem(rest);
-  item.erase(item.find_last_not_of(' ') + 1);
-  const auto number = ParseNumber(item);
-  if (!number) {
-    throw Refusal("The printer factor is not a number.");
+  std::array<std::string_view, 6> lines;
+  for (std::string_view& line : lines) {
+    if (rest.empty()) {
+      return std::nullopt;
+    }
+    line = TakeLine(rest);
   }
-  return *number;
+  std::string factor = FirstItem(lines[5]);
+  factor.erase(factor.find_last_not_of(' ') + 1);
+  const auto number = ParseNumber(factor);
+  return number ? std::optional<StartUpSettings>({" " + FirstItem(lines[1]), FirstItem(lines[3]), *number})
+                : std::nullopt;
+}
+
+std::optional<StartUpSettings> ReadSettings(const std::filesystem::path& path)
+{
+  try {
+    return ParseSettings(ReadFile(path));
+  } catch (const Refusal&) {
+    return std::nullopt;  // without its reason: the defaults serve, whatever it is
+  }
 }
 
 }  // namespace
 
 void ReadTEandFIOinfo(SurveyState& state, Dialogs& dialogs)
 {
-  try {
-    const std::string content = ReadFile(SettingsPath(state));
-    std::string_view rest = content;
-    TakeLine(rest);
-    const std::string editor = " " + TakeItem(rest);
-    TakeLine(rest);
-    const std::string inputPath = TakeItem(rest);
-    TakeLine(rest);
-    state.PrinterDpiFactor = TakeNumber(rest);
-    state.TextEditorPath = editor;
-    state.InputFilePath = inputPath;
-  } catch (const Refusal&) {
+  const auto settings = ReadSettings(SettingsPath(state));
+  if (!settings) {
     dialogs.Warn("Warning! TE_FIO read error! Standard default settings employed...");
-    state.TextEditorPath = DefaultTextEditor;
-    state.InputFilePath = state.ProgramDir.string();
-    state.PrinterDpiFactor = DefaultDpiFactor;
   }
+  const auto& [editor, inputPath, factor] =
+      settings.value_or(StartUpSettings{DefaultTextEditor, state.ProgramDir.string()});
+  state.TextEditorPath = editor;
+  state.InputFilePath = inputPath;
+  state.PrinterDpiFactor = factor;
 }
 
 void SaveTEandFIOinfo(const SurveyState& state, Dialogs& dialogs)

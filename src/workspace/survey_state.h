@@ -12,6 +12,7 @@
 namespace veln {
 
 inline constexpr int MaxDesigns = 5;
+inline constexpr int LongestLabel = 10;  ///< characters of a signal's label
 
 /// The one record that holds a survey for the length of a program run. The front end owns the only one and
 /// hands it to the procedures. It holds facts; captions.h has the texts that are shown of them.

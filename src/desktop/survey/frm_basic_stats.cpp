@@ -15,8 +15,6 @@ namespace veln {
 
 namespace {
 
-constexpr int LongestLabel = 10;
-
 /// A check box that keeps `checked` and shows its state by its colour.
 QCheckBox* MakeCheck(QWidget* parent, const char* name, const QString& caption, bool enabled, bool& checked)
 {

@@ -193,7 +193,6 @@ QGroupBox* frmStructure::MakeColumnPart()
 
 QGroupBox* frmStructure::MakeLabelPart()
 {
-  constexpr int LongestLabel = 10;
   auto* frame = new QGroupBox("3. Labels and units", this);
   auto* grid = new QGridLayout(frame);
   grid->addWidget(MakeText(frame, "Label6",

@@ -2,6 +2,7 @@
 
 #include "desktop/parts/controls.h"
 #include "desktop/parts/filtered_edit.h"
+#include "workspace/project.h"
 
 #include <QGridLayout>
 #include <QGroupBox>
@@ -110,8 +111,6 @@ QGroupBox* frmProject::MakeCreation()
 
 QGroupBox* frmProject::MakeIdentity()
 {
-  constexpr int LongestDescription = 60;
-  constexpr int FieldIdLength = 4;
   auto* frame = new QGroupBox("Project / Field ID Information", this);
   frame->setObjectName("Frame1");
   auto* grid = new QGridLayout(frame);
