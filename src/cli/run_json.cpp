@@ -156,7 +156,7 @@ std::string ComposeRunJson(const RunOptions& options, const RunRecord& record, c
         {"sites", record.ImportedSites},
         {"signals", state.SignalCount},
         {"log", import.Log},
-        {"units", import.Units}}},
+        {"units", UnitsText(import.Units)}}},
       {"signals", SignalsOf(state)},
       {"corr", OrNull(state.Signals.Correlation, Number)},
       {"decorrelation", DecorrelationsOf(options, record)},

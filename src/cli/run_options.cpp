@@ -136,6 +136,12 @@ void RequireOneOf(const std::string& option, const std::string& text, const std:
   RefuseUsage(option + ": \"" + text + "\" is not one of " + list + ".");
 }
 
+ConductivityUnits ReadUnits(const std::string& option, const std::string& text)
+{
+  RequireOneOf(option, text, {"mS/m", "dS/m"});
+  return text == "dS/m" ? ConductivityUnits::DeciSiemens : ConductivityUnits::MilliSiemens;
+}
+
 std::filesystem::path AbsoluteRoot(const std::string& text)
 {
   const std::filesystem::path root = std::filesystem::absolute(text.empty() ? "." : text);
@@ -177,7 +183,7 @@ void ReadImport(const RawOptions& raw, RunOptions& options)
 {
   RequirePath("SURVEY_FILE", raw.SurveyFile);
   RequireOneOf("--type", raw.Type, {"grid", "transect"});
-  RequireOneOf("--units", raw.Units, {"mS/m", "dS/m"});
+  const ConductivityUnits units = ReadUnits("--units", raw.Units);
   const std::string label1 = raw.Label1.value_or(raw.Log ? "log(EMv)" : "EMv");
   const std::string label2 = raw.Label2.value_or(raw.Log ? "log(EMh)" : "EMh");
   RequireText("--label1", label1, LongestLabel);
@@ -185,14 +191,13 @@ void ReadImport(const RawOptions& raw, RunOptions& options)
   options.Import = {raw.SurveyFile,
                     {raw.Type == "transect", raw.SiteId, raw.SecondSignal},
                     {label1, label2},
-                    raw.Units,
+                    units,
                     raw.Log};
   if (raw.ConvertUnits) {
-    RequireOneOf("--convert-units", *raw.ConvertUnits, {"mS/m", "dS/m"});
-    if (*raw.ConvertUnits == raw.Units) {
+    options.ConvertUnits = ReadUnits("--convert-units", *raw.ConvertUnits);
+    if (options.ConvertUnits == units) {
       RefuseUsage("--convert-units: the signals of the file are in " + raw.Units + " already.");
     }
-    options.ConvertUnits = raw.ConvertUnits;
   }
   for (const std::string& text : raw.Translations) {
     options.Translations.push_back(ReadTranslation("--translate", text));
@@ -209,11 +214,11 @@ void ReadAnalysis(const RawOptions& raw, RunOptions& options)
   options.DeletionRounds = ReadRounds("--delete-outliers", raw.Rounds);
   if (raw.EdgeBuffer) {
     RequireOneOf("--edge-buffer", *raw.EdgeBuffer, {"ends", "rows"});
-    options.EdgeBuffering = *raw.EdgeBuffer == "rows";
+    options.EdgeBuffering = *raw.EdgeBuffer == "rows" ? BufferExtent::OuterRowsToo : BufferExtent::RowEnds;
   }
   options.TransitionAnalysis = raw.Transition;
   options.TransitionFile = raw.TransitionFile;
-  if (!options.Import.Layout.Transect && (options.EdgeBuffering || options.TransitionAnalysis)) {
+  if (!options.Import.Layout.Transect && (raw.EdgeBuffer || options.TransitionAnalysis)) {
     RefuseUsage("--edge-buffer and --transition need a transect survey (--type transect).");
   }
   if (options.TransitionFile && !options.TransitionAnalysis) {

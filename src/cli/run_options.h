@@ -3,6 +3,7 @@
 #include "cli/option_text.h"
 #include "cli/picture_option.h"
 #include "signal/decorrelation.h"
+#include "signal/edge_buffer.h"
 #include "survey/survey_import.h"
 
 #include <array>
@@ -19,11 +20,11 @@ struct RunOptions {
   std::string Project, Field, Description;
   bool Overwrite = false;
   ImportRequest Import;
-  std::optional<std::string> ConvertUnits;
+  std::optional<ConductivityUnits> ConvertUnits;
   std::vector<CoordinateTranslation> Translations;
   DecorrelationLevels Levels;
   int DeletionRounds = 0;
-  std::optional<bool> EdgeBuffering;  ///< true: first and last row too
+  BufferExtent EdgeBuffering = BufferExtent::None;
   bool TransitionAnalysis = false;
   bool TransitionFile = false;
   std::optional<int> Reduction;  ///< keep one free site in so many

@@ -116,7 +116,7 @@ class SurveyRun {
     });
     record_.ImportedSites = state_.SurveySize;
     std::string text = Count(state_.SurveySize, "site") + ", " + Count(state_.SignalCount, "signal") +
-                       " in " + state_.SignalUnits;
+                       " in " + UnitsText(state_.SignalUnits);
     if (IsTransect(state_)) {
       text += ", " + Count(InitRows(state_.RowNumber).size(), "row");
     }
@@ -127,10 +127,10 @@ class SurveyRun {
   {
     if (options_.ConvertUnits) {
       BasicStatsForm form = LoadBasicStatsForm(state_);
-      form.Check3 = *options_.ConvertUnits == "mS/m";
+      form.Check3 = options_.ConvertUnits == ConductivityUnits::MilliSiemens;
       form.Check4 = !form.Check3;
       ComputeSignals(state_, form);
-      progress_.Step("Units", "signals rescaled to " + state_.SignalUnits);
+      progress_.Step("Units", std::string("signals rescaled to ") + UnitsText(state_.SignalUnits));
     }
     for (const CoordinateTranslation& translation : options_.Translations) {
       TranslateCoordinates(state_, translation);

@@ -32,10 +32,10 @@ std::string ValidationStep(const SurveyState& state)
                                                       : "Next: decorrelate the remaining " + sites + " again";
 }
 
-std::string DesignStep(const SurveyState& state, bool designsOffered)
+std::string DesignStep(const SurveyState& state)
 {
   const auto free = Counted(CountOf(state, site_status::Free), "free site");
-  const bool more = designsOffered && state.Menu.IsEnabled(MenuEntry::mnuSRS);
+  const bool more = state.Menu.IsEnabled(MenuEntry::mnuSRS);
   const std::string leave = "exit, which exports " + Counted(state.SurveySize, "site");
   if (HasDesign(state)) {
     return more ? "Next: design another sample from " + free + ", or " + leave : "Next: " + leave;
@@ -46,10 +46,10 @@ std::string DesignStep(const SurveyState& state, bool designsOffered)
 
 }  // namespace
 
-std::string NextStep(const SurveyState& state, bool designsOffered)
+std::string NextStep(const SurveyState& state)
 {
   if (state.Menu.IsEnabled(MenuEntry::mnuVPOF)) {
-    return DesignStep(state, designsOffered);
+    return DesignStep(state);
   }
   if (state.Menu.IsEnabled(MenuEntry::mnuSigV)) {
     return ValidationStep(state);

@@ -6,8 +6,7 @@
 
 namespace veln {
 
-/// What there is to do next, in words and counts ("Next: decorrelate 1500 sites"). `designsOffered` is false
-/// where no way to a sample design is open whatever the survey.
-std::string NextStep(const SurveyState& state, bool designsOffered = true);
+/// What there is to do next, in words and counts ("Next: decorrelate 1500 sites").
+std::string NextStep(const SurveyState& state);
 
 }  // namespace veln

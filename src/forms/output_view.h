@@ -3,41 +3,10 @@
 #include "toolkit/dialogs.h"
 #include "workspace/survey_state.h"
 
-#include <array>
 #include <filesystem>
 #include <string>
 
 namespace veln {
-
-/// A help document and the control that opens it.
-struct HelpTopic {
-  const char* Document;
-  const char* Window;
-  const char* Control;
-};
-
-/// All help documents; the numbers skip 08.
-inline constexpr std::array<HelpTopic, 19> HelpTopics = {{
-    {"hdoc01", "frmBasicStats", "CHelp"},
-    {"hdoc02", "frmParse", "Command3"},
-    {"hdoc03", "frmIGC", "CHelp"},
-    {"hdoc04", "frmProject", "CHelp"},
-    {"hdoc05", "frmStructure", "Chelp"},
-    {"hdoc06", "frmMask", "CHelp"},
-    {"hdoc07", "frmPCT", "CHelp"},
-    {"hdoc09", "frmSigDecorr", "CHelp"},
-    {"hdoc10", "frmSigVal", "CHelp"},
-    {"hdoc11", "frmSRS", "mnuSRSH1"},
-    {"hdoc11b", "frmSRS", "mnuSRSH2"},
-    {"hdoc11c", "frmSRS", "mnuSRSH3"},
-    {"hdoc12", "frmSvyGraph", "mnuGH1"},
-    {"hdoc13", "frmSvyGraph", "mnuGH2"},
-    {"hdoc14", "frmMain", "mnuMH1"},
-    {"hdoc15", "frmMain", "mnuMH2"},
-    {"hdoc16", "frmMain", "mnuMH3"},
-    {"hdoc17", "frmFileIO", "cmdHelp"},
-    {"hdoc18", "frmSiteMap", "mnusubSSMHelp"},
-}};
 
 /// Where a help document ("hdoc04") lies.
 std::filesystem::path HelpDocumentPath(const SurveyState& state, const std::string& document);

@@ -52,7 +52,7 @@ AcceptanceOptions SigValForm::Options() const
 {
   AcceptanceOptions options;
   if (ChkEB1) {
-    options.EdgeBuffering = OptEB1;
+    options.EdgeBuffering = OptEB1 ? BufferExtent::OuterRowsToo : BufferExtent::RowEnds;
   }
   options.TransitionAnalysis = Check2 && Check2Enabled;
   return options;

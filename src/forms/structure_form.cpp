@@ -13,7 +13,11 @@ std::string StructureForm::Label9() const
 
 ImportRequest StructureForm::Request() const
 {
-  return {Text3, {Transect, Check1, Check2}, {Text1, Text2}, Check4 ? "dS/m" : "mS/m", Option1};
+  return {Text3,
+          {Transect, Check1, Check2},
+          {Text1, Text2},
+          Check4 ? ConductivityUnits::DeciSiemens : ConductivityUnits::MilliSiemens,
+          Option1};
 }
 
 void ChooseLogTransform(StructureForm& form, bool log)

@@ -32,7 +32,7 @@ int MaskRow(SurveyState& state, const SurveyRow& row)
 
 }  // namespace
 
-int EdgeBuffer(SurveyState& state, const std::vector<SurveyRow>& rows, bool rowbuf)
+int EdgeBuffer(SurveyState& state, const std::vector<SurveyRow>& rows, BufferExtent extent)
 {
   int steps = 0;
   for (const SurveyRow& row : rows) {
@@ -43,7 +43,7 @@ int EdgeBuffer(SurveyState& state, const std::vector<SurveyRow>& rows, bool rowb
       }
     }
   }
-  if (rowbuf && !rows.empty()) {
+  if (extent == BufferExtent::OuterRowsToo && !rows.empty()) {
     steps += MaskRow(state, rows.front());
     steps += MaskRow(state, rows.back());
   }

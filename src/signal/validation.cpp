@@ -1,6 +1,5 @@
 #include "signal/validation.h"
 
-#include "signal/edge_buffer.h"
 #include "signal/info_file.h"
 #include "signal/transition_analysis.h"
 #include "survey/field_extent.h"
@@ -16,9 +15,9 @@ namespace veln {
 
 namespace {
 
-void RunEdgeBuffering(SurveyState& state, bool rowbuf, Dialogs& dialogs, Acceptance& acceptance)
+void RunEdgeBuffering(SurveyState& state, BufferExtent extent, Dialogs& dialogs, Acceptance& acceptance)
 {
-  const int masked = EdgeBuffer(state, InitRows(state.RowNumber), rowbuf);
+  const int masked = EdgeBuffer(state, InitRows(state.RowNumber), extent);
   acceptance.EdgeMasked = masked;
   dialogs.Inform("Note:  " + NumberToString(masked) + " sites were masked by the edge buffering algorithm.");
 }
@@ -86,10 +85,10 @@ Acceptance AcceptConfiguration(SurveyState& state, const AcceptanceOptions& opti
                                const Clock& clock)
 {
   state.Menu.Require(MenuEntry::mnuSigV, "Signal validation");
-  if ((options.EdgeBuffering || options.TransitionAnalysis) && !IsTransect(state)) {
-    throw Refusal("Edge buffering and transition analysis need a transect survey.");
-  }
-  if (options.EdgeBuffering || options.TransitionAnalysis) {
+  if (options.Buffer() || options.TransitionAnalysis) {
+    if (!IsTransect(state)) {
+      throw Refusal("Edge buffering and transition analysis need a transect survey.");
+    }
     RequireMeasurable(MeasureField(state));
   }
   Acceptance acceptance;
@@ -98,13 +97,13 @@ Acceptance AcceptConfiguration(SurveyState& state, const AcceptanceOptions& opti
     return asked ? AlgorithmState::Invoked : notRun;
   };
   std::ranges::replace(state.SiteStatus, site_status::Outlier, site_status::Masked);
-  if (options.EdgeBuffering) {
-    RunEdgeBuffering(state, *options.EdgeBuffering, dialogs, acceptance);
+  if (options.Buffer()) {
+    RunEdgeBuffering(state, options.EdgeBuffering, dialogs, acceptance);
   }
   if (options.TransitionAnalysis) {
     RunTransitionAnalysis(state, dialogs, acceptance);
   }
-  state.Algorithms = {stateOf(options.EdgeBuffering.has_value()), stateOf(options.TransitionAnalysis)};
+  state.Algorithms = {stateOf(options.Buffer()), stateOf(options.TransitionAnalysis)};
   MakeInfoFile(state, dialogs, clock, acceptance);
   state.Menu.Apply(WorkflowEvent::ConfigurationAccepted);
   return acceptance;

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "signal/edge_buffer.h"
 #include "toolkit/clock.h"
 #include "toolkit/dialogs.h"
 #include "workspace/survey_state.h"
@@ -17,8 +18,10 @@ int DeleteOutliers(SurveyState& state);
 
 /// What the user wants done when the configuration is accepted; both steps need a transect survey.
 struct AcceptanceOptions {
-  std::optional<bool> EdgeBuffering;  ///< the value of `OptEB1`: first and last row too
+  BufferExtent EdgeBuffering = BufferExtent::None;
   bool TransitionAnalysis = false;
+
+  [[nodiscard]] bool Buffer() const { return EdgeBuffering != BufferExtent::None; }
 };
 
 /// What an acceptance did.

@@ -6,14 +6,13 @@
 
 #include <cmath>
 #include <cstddef>
-#include <optional>
+#include <utility>
 
 namespace veln {
 
 namespace {
 
 constexpr int CounterStep = 100;
-constexpr std::size_t MostItems = 6;
 
 constexpr const char* TooManyRecords =
     "Error!  Your file contains more than 30,000 records.\nData import process has been aborted!";
@@ -46,7 +45,7 @@ int ScanLines(std::string_view content, const ImportProgress& progress)
 {
   Report(progress, ImportPass::Scanning, 0);
   const std::size_t lines = CountLines(content);
-  for (int count = CounterStep; static_cast<std::size_t>(count) <= lines && count <= MostSites;
+  for (int count = CounterStep; std::cmp_less_equal(count, lines) && count <= MostSites;
        count += CounterStep) {
     Report(progress, ImportPass::Scanning, count);
   }
@@ -64,14 +63,8 @@ int ScanLines(std::string_view content, const ImportProgress& progress)
 class RecordReader {
  public:
   RecordReader(std::string_view content, const RecordLayout& layout, bool log, int surveySize)
-      : items_(content), layout_(layout), log_(log), surveySize_(surveySize)
+      : items_(content), layout_(layout), recordItems_(layout.Items()), log_(log), surveySize_(surveySize)
   {
-    const auto size = static_cast<std::size_t>(surveySize);
-    for (auto* column : {&survey_.CoordX, &survey_.CoordY, &survey_.Signal1, &survey_.Signal2}) {
-      column->reserve(size);
-    }
-    survey_.SiteId.reserve(size);
-    survey_.RowNumber.reserve(size);
   }
 
   bool AtEnd() { return items_.AtEnd(); }
@@ -81,22 +74,21 @@ class RecordReader {
   /// Tests one record in the order items, numbers, room, 16 bits, logarithms, and stores it.
   void ReadRecord()
   {
-    std::array<std::string_view, MostItems> items;
-    const auto itemCount = static_cast<std::size_t>(layout_.ItemCount());
-    for (std::size_t i = 0; i < itemCount; ++i) {
-      const auto item = items_.Next();
-      items.at(i) = item ? *item : throw Refusal(ColumnMismatch());
+    ByRecordItem<std::string_view> texts;
+    for (const RecordItem item : recordItems_) {
+      const auto text = items_.Next();
+      texts[item] = text ? *text : throw Refusal(ColumnMismatch());
     }
     ++count_;
-    std::array<double, MostItems> numbers{};
-    for (std::size_t i = 0; i < itemCount; ++i) {
-      const auto number = ParseNumber(items.at(i));
-      numbers.at(i) = number ? *number : throw Refusal(NonNumericData);
+    ByRecordItem<double> numbers;
+    for (const RecordItem item : recordItems_) {
+      const auto number = ParseNumber(texts[item]);
+      numbers[item] = number ? *number : throw Refusal(NonNumericData);
     }
     if (count_ > surveySize_) {
       throw Refusal(ColumnMismatch());
     }
-    Store(numbers.data());
+    Store(numbers);
   }
 
   /// Which way the columns differ from what was told shows in how far the records have come.
@@ -112,27 +104,33 @@ class RecordReader {
     return whole ? *whole : throw Refusal(ColumnMismatch());
   }
 
-  void Store(const double* number)
+  void Store(const ByRecordItem<double>& numbers)
   {
-    survey_.SiteId.push_back(layout_.SiteIdColumn ? Whole(*number++) : static_cast<std::int16_t>(count_));
-    survey_.CoordX.push_back(*number++);
-    survey_.CoordY.push_back(*number++);
-    const double s1 = *number++;
-    const double s2 = layout_.SecondSignal ? *number++ : 1;
+    using enum RecordItem;
+    survey_.SiteId.push_back(layout_.SiteIdColumn ? Whole(numbers[SiteId])
+                                                  : static_cast<std::int16_t>(count_));
+    survey_.CoordX.push_back(numbers[X]);
+    survey_.CoordY.push_back(numbers[Y]);
     if (layout_.Transect) {
-      survey_.RowNumber.push_back(Whole(*number));
+      survey_.RowNumber.push_back(Whole(numbers[Row]));
     }
-    if (log_ && !(s1 > 0 && s2 > 0)) {
+    StoreSignal(survey_.Signal1, numbers[Signal1]);
+    if (layout_.SecondSignal) {
+      StoreSignal(survey_.Signal2, numbers[Signal2]);
+    }
+  }
+
+  void StoreSignal(std::vector<double>& column, double value) const
+  {
+    if (log_ && !(value > 0)) {
       throw Refusal(NonPositiveData);
     }
-    survey_.Signal1.push_back(log_ ? std::log(s1) : s1);
-    if (layout_.SecondSignal) {
-      survey_.Signal2.push_back(log_ ? std::log(s2) : s2);
-    }
+    column.push_back(log_ ? std::log(value) : value);
   }
 
   RawItems items_;
   RecordLayout layout_;
+  std::vector<RecordItem> recordItems_;
   bool log_;
   int surveySize_;
   int count_ = 0;
@@ -152,6 +150,22 @@ void TestRowNumbers(const std::vector<std::int16_t>& rows)
 }
 
 }  // namespace
+
+std::vector<RecordItem> RecordLayout::Items() const
+{
+  using enum RecordItem;
+  std::vector<RecordItem> items = {X, Y, Signal1};
+  if (SiteIdColumn) {
+    items.insert(items.begin(), SiteId);
+  }
+  if (SecondSignal) {
+    items.push_back(Signal2);
+  }
+  if (Transect) {
+    items.push_back(Row);
+  }
+  return items;
+}
 
 RawSurvey DataLoad(std::string_view content, const RecordLayout& layout, bool log,
                    const ImportProgress& progress)

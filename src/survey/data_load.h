@@ -1,7 +1,8 @@
 #pragma once
 
-#include <array>
-#include <cstdint>
+#include "toolkit/enum_array.h"
+#include "workspace/site_columns.h"
+
 #include <functional>
 #include <string>
 #include <string_view>
@@ -13,27 +14,24 @@ inline constexpr int FewestSites = 50;
 inline constexpr int MostSites = 30'000;
 inline constexpr int MostRows = 250;
 
-/// The columns of a raw survey file, in the order site-ID, x, y, s1, s2, row; x, y and s1 are always there.
+/// What an item of a raw record is read as, in the order of the items.
+enum class RecordItem { SiteId, X, Y, Signal1, Signal2, Row };
+
+template <class Value>
+using ByRecordItem = EnumArray<RecordItem, Value, 6>;
+
+/// Which items the records of a raw survey file have besides x, y and s1.
 struct RecordLayout {
-  bool Transect = false;  ///< the last column is the row number
+  bool Transect = false;  ///< the row number
   bool SiteIdColumn = false;
   bool SecondSignal = false;
 
-  /// Items of one record, 3 to 6.
-  [[nodiscard]] int ItemCount() const
-  {
-    return 3 + (Transect ? 1 : 0) + (SiteIdColumn ? 1 : 0) + (SecondSignal ? 1 : 0);
-  }
+  /// The 3 to 6 items of one record, in order.
+  [[nodiscard]] std::vector<RecordItem> Items() const;
 };
 
-/// A raw survey as read; one entry a site.
-struct RawSurvey {
-  std::vector<std::int16_t> SiteId;
-  std::vector<double> CoordX, CoordY;
-  std::vector<double> Signal1,
-      Signal2;  ///< natural logarithms when asked for; Signal2 only with a second signal
-  std::vector<std::int16_t> RowNumber;  ///< only for a transect survey
-};
+/// A raw survey as read: site IDs, coordinates, signals (natural logarithms when asked for) and rows.
+using RawSurvey = SiteColumns;
 
 enum class ImportPass { Scanning, Importing };
 

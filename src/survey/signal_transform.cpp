@@ -16,7 +16,7 @@ namespace {
 struct HeldSignals {
   std::vector<std::vector<double>> Columns;
   bool Log;
-  std::string Units;
+  ConductivityUnits Units;
 };
 
 template <class Step>
@@ -46,8 +46,9 @@ void RemoveLog(HeldSignals& signals)
   signals.Log = false;
 }
 
-void Rescale(HeldSignals& signals, double factor, const char* units)
+void Rescale(HeldSignals& signals, ConductivityUnits units)
 {
+  const double factor = units == ConductivityUnits::MilliSiemens ? 100 : 0.01;
   if (signals.Log) {
     const double shift = std::log(factor);
     EachValue(signals, [shift](double value) { return value + shift; });
@@ -84,15 +85,13 @@ BasicStatsForm LoadBasicStatsForm(const SurveyState& state)
   form.Text2Visible = state.SignalCount == 2;
   form.Check1Enabled = !state.LogTransform;
   form.Check2Enabled = state.LogTransform;
-  form.Check3Enabled = state.SignalUnits == "dS/m";
+  form.Check3Enabled = state.SignalUnits == ConductivityUnits::DeciSiemens;
   form.Check4Enabled = !form.Check3Enabled;
   return form;
 }
 
 void ComputeSignals(SurveyState& state, const BasicStatsForm& form)
 {
-  constexpr double ToMilli = 100;
-  constexpr double ToDeci = 0.01;
   state.Menu.Require(MenuEntry::mnuStats, "Signal transformation");
   state.SignalLabel = form.Labels;
   HeldSignals signals{{state.Signal1}, state.LogTransform, state.SignalUnits};
@@ -106,10 +105,10 @@ void ComputeSignals(SurveyState& state, const BasicStatsForm& form)
     RemoveLog(signals);
   }
   if (form.Check3) {
-    Rescale(signals, ToMilli, "mS/m");
+    Rescale(signals, ConductivityUnits::MilliSiemens);
   }
   if (form.Check4) {
-    Rescale(signals, ToDeci, "dS/m");
+    Rescale(signals, ConductivityUnits::DeciSiemens);
   }
   RequireStatistics(signals);
 

@@ -53,13 +53,8 @@ void ImportSurvey(SurveyState& state, const ImportRequest& request, const Import
   state.SignalLabel = request.Labels;
   state.SignalUnits = request.Units;
   state.LogTransform = request.Log;
-  state.SiteStatus.assign(survey.SiteId.size(), site_status::Free);
-  state.SiteId = std::move(survey.SiteId);
-  state.CoordX = std::move(survey.CoordX);
-  state.CoordY = std::move(survey.CoordY);
-  state.Signal1 = std::move(survey.Signal1);
-  state.Signal2 = std::move(survey.Signal2);
-  state.RowNumber = std::move(survey.RowNumber);
+  survey.SiteStatus.assign(survey.SiteId.size(), site_status::Free);
+  static_cast<SiteColumns&>(state) = std::move(survey);
   state.ImportFileName = request.FileName;
   state.Kind = request.Layout.Transect ? SurveyKind::Transect : SurveyKind::Grid;
   UpdateSignalStats(state);

@@ -13,8 +13,8 @@ struct ImportRequest {
   std::string FileName;  ///< as typed or browsed
   RecordLayout Layout;
   std::array<std::string, 2> Labels;
-  std::string Units = "mS/m";  ///< "mS/m" or "dS/m"
-  bool Log = false;            ///< natural log transform
+  ConductivityUnits Units = ConductivityUnits::MilliSiemens;
+  bool Log = false;  ///< natural log transform
 };
 
 /// Reads a raw survey file into the record, shows its statistics and opens graphics, transformation and

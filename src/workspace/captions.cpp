@@ -9,6 +9,11 @@ const char* SurveyTypeText(SurveyKind kind)
   return kind == SurveyKind::Transect ? "Transect" : "Grid";
 }
 
+const char* UnitsText(ConductivityUnits units)
+{
+  return units == ConductivityUnits::DeciSiemens ? "dS/m" : "mS/m";
+}
+
 const char* SignalTransformText(bool log)
 {
   return log ? "natural log" : "none";

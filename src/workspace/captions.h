@@ -11,6 +11,9 @@ namespace veln {
 /// "Grid" or "Transect".
 const char* SurveyTypeText(SurveyKind kind);
 
+/// "mS/m" or "dS/m".
+const char* UnitsText(ConductivityUnits units);
+
 /// Of the signals: "natural log" or "none".
 const char* SignalTransformText(bool log);
 

@@ -9,6 +9,9 @@ namespace veln {
 /// How the sites were visited.
 enum class SurveyKind { Grid, Transect };
 
+/// Of the conductivities, per metre.
+enum class ConductivityUnits { MilliSiemens, DeciSiemens };
+
 /// The ends of a series.
 struct Limits {
   double Minimum = 0;

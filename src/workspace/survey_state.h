@@ -27,8 +27,8 @@ struct SurveyState : SiteColumns {
   int SurveySize = 0;   ///< sites held; 50 to 30,000 after import, fewer after deletions
   int SignalCount = 1;  ///< signal columns, 1 or 2
   std::array<std::string, 2> SignalLabel;
-  std::string SignalUnits = "mS/m";  ///< "mS/m" or "dS/m"
-  bool LogTransform = false;         ///< the signals are natural logarithms
+  ConductivityUnits SignalUnits = ConductivityUnits::MilliSiemens;
+  bool LogTransform = false;  ///< the signals are natural logarithms
   FieldOrientation Orientation;
 
   // How far the run has come.

@@ -3,8 +3,6 @@
 #include "toolkit/refusal.h"
 
 #include <array>
-#include <cstddef>
-#include <initializer_list>
 #include <string>
 
 namespace veln {
@@ -13,53 +11,42 @@ namespace {
 
 using enum MenuEntry;
 
-using EntrySet = std::bitset<MenuEntryCount>;
-
-EntrySet Entries(std::initializer_list<MenuEntry> entries)
-{
-  EntrySet set;
-  for (const MenuEntry entry : entries) {
-    set.set(static_cast<std::size_t>(entry));
-  }
-  return set;
-}
-
 struct Transition {
   WorkflowEvent Event;
-  EntrySet Opens;
-  EntrySet Closes;
+  std::set<MenuEntry> Opens;
+  std::set<MenuEntry> Closes;
 };
 
 const std::array<Transition, 7>& Transitions()
 {
   using enum WorkflowEvent;
   static const std::array<Transition, 7> Table = {{
-      {ProjectAccepted, Entries({mnuImport}), {}},
-      {SurveyImported, Entries({mnuSG, mnuStats, mnuSigD}), Entries({mnuProject, mnuImport})},
-      {SignalsDecorrelated, Entries({mnuSigV}), Entries({mnuStats})},
-      {ConfigurationAccepted, Entries({mnuVPOF, mnuSRS, mnuMask}), Entries({mnuSigD, mnuSigV})},
-      {DesignSaved, Entries({mnuSHowMap}), Entries({mnuMask})},
-      {ManualDesignSaved, Entries({mnuSHowMap}), Entries({mnuMask})},
-      {DesignsExhausted, {}, Entries({mnuSRS})},
+      {ProjectAccepted, {mnuImport}, {}},
+      {SurveyImported, {mnuSG, mnuStats, mnuSigD}, {mnuProject, mnuImport}},
+      {SignalsDecorrelated, {mnuSigV}, {mnuStats}},
+      {ConfigurationAccepted, {mnuVPOF, mnuSRS, mnuMask}, {mnuSigD, mnuSigV}},
+      {DesignSaved, {mnuSHowMap}, {mnuMask}},
+      {ManualDesignSaved, {mnuSHowMap}, {mnuMask}},
+      {DesignsExhausted, {}, {mnuSRS}},
   }};
   return Table;
 }
 
 }  // namespace
 
-Workflow::Workflow() : enabled_(Entries({mnuProject})) {}
+Workflow::Workflow() : enabled_({mnuProject}) {}
 
 bool Workflow::IsEnabled(MenuEntry entry) const
 {
-  return enabled_.test(static_cast<std::size_t>(entry));
+  return enabled_.contains(entry);
 }
 
 void Workflow::Apply(WorkflowEvent event)
 {
   for (const Transition& transition : Transitions()) {
     if (transition.Event == event) {
-      enabled_ |= transition.Opens;
-      enabled_ &= ~transition.Closes;
+      enabled_.insert(transition.Opens.begin(), transition.Opens.end());
+      std::erase_if(enabled_, [&](MenuEntry entry) { return transition.Closes.contains(entry); });
     }
   }
 }

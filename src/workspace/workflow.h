@@ -1,6 +1,6 @@
 #pragma once
 
-#include <bitset>
+#include <set>
 
 namespace veln {
 
@@ -17,8 +17,6 @@ enum class MenuEntry {
   mnuMask,
   mnuSHowMap
 };
-
-inline constexpr int MenuEntryCount = 10;
 
 /// What moves the work on.
 enum class WorkflowEvent {
@@ -46,7 +44,7 @@ class Workflow {
   bool operator==(const Workflow&) const = default;
 
  private:
-  std::bitset<MenuEntryCount> enabled_;
+  std::set<MenuEntry> enabled_;
 };
 
 }  // namespace veln

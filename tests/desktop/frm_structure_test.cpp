@@ -131,7 +131,7 @@ TEST_F(FrmStructure, ImportFillsTheRecordAndClosesTheWindow)
   const SurveyState& state = Shared.State;
   EXPECT_EQ(state.SurveySize, 50);
   EXPECT_THAT(state.SignalLabel, ElementsAre("R&D 1 and ", "log(EMh)")) << "at most 10 characters";
-  EXPECT_EQ(state.SignalUnits, "dS/m");
+  EXPECT_EQ(state.SignalUnits, ConductivityUnits::DeciSiemens);
   EXPECT_TRUE(state.LogTransform && IsTransect(state));
   EXPECT_EQ(state.ImportFileName, RawPath().toStdString());
   EXPECT_FALSE(state.Menu.IsEnabled(MenuEntry::mnuImport));

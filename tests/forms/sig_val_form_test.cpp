@@ -65,22 +65,22 @@ TEST(SigValForm, DeletionClosesTheTransectOptionsAndAcceptanceBringsTheTickBack)
   EXPECT_FALSE(form.Options().TransitionAnalysis);
   ChooseAcceptance(form, state);
   EXPECT_TRUE(form.Options().TransitionAnalysis);
-  EXPECT_FALSE(form.Options().EdgeBuffering);
+  EXPECT_FALSE(form.Options().Buffer());
 }
 
 TEST(SigValForm, EdgeBufferingStartsWithTheRowsAndAsksForWhatIsSelected)
 {
   SigValForm form = LoadSigValForm(SurveyWith(TransectSurvey(5, 12), 0));
-  EXPECT_FALSE(form.Options().EdgeBuffering);
+  EXPECT_FALSE(form.Options().Buffer());
   TickEdgeBuffering(form, true);
   EXPECT_TRUE(form.OptEBEnabled && form.OptEB1 && !form.OptEB2);
-  EXPECT_EQ(form.Options().EdgeBuffering, true);
+  EXPECT_EQ(form.Options().EdgeBuffering, BufferExtent::OuterRowsToo);
   ChooseRowBuffering(form, false);
   EXPECT_TRUE(!form.OptEB1 && form.OptEB2);
-  EXPECT_EQ(form.Options().EdgeBuffering, false);
+  EXPECT_EQ(form.Options().EdgeBuffering, BufferExtent::RowEnds);
   TickEdgeBuffering(form, false);
   EXPECT_FALSE(form.OptEBEnabled || form.OptEB1 || form.OptEB2);
-  EXPECT_FALSE(form.Options().EdgeBuffering);
+  EXPECT_FALSE(form.Options().Buffer());
 }
 
 }  // namespace

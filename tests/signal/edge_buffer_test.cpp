@@ -41,9 +41,9 @@ std::vector<std::size_t> MaskedSites(const SurveyState& state)
   return masked;
 }
 
-int Buffer(SurveyState& state, bool rowbuf)
+int Buffer(SurveyState& state, BufferExtent extent = BufferExtent::RowEnds)
 {
-  return EdgeBuffer(state, InitRows(state.RowNumber), rowbuf);
+  return EdgeBuffer(state, InitRows(state.RowNumber), extent);
 }
 
 TEST(RowTable, RowIsARunOfOneNumber)
@@ -57,7 +57,7 @@ TEST(RowTable, RowIsARunOfOneNumber)
 TEST(EdgeBuffer, TakesFourPercentOfEachEndAndLeavesTheBorderFree)
 {
   SurveyState state = RowsAlongX({EvenRow(51)});  // t = 0, .02, .04, ..., .96, .98, 1
-  EXPECT_EQ(Buffer(state, false), 4);
+  EXPECT_EQ(Buffer(state), 4);
   EXPECT_THAT(MaskedSites(state), ElementsAre(0, 1, 49, 50));
 }
 
@@ -66,23 +66,23 @@ TEST(EdgeBuffer, RowsAreCountedOnTopOfTheirEnds)
   SurveyState state = RowsAlongX({EvenRow(51), EvenRow(51), EvenRow(51)});
   state.SiteStatus[60] = site_status::Masked;  // stays, inside its row
   state.SiteStatus[51] = site_status::Masked;  // counts again, at its row's end
-  EXPECT_EQ(Buffer(state, true), 3 * 4 + 2 * 51);
+  EXPECT_EQ(Buffer(state, BufferExtent::OuterRowsToo), 3 * 4 + 2 * 51);
   EXPECT_EQ(MaskedSites(state).size(), 2 * 51 + 4 + 1U);
   SurveyState single = RowsAlongX({EvenRow(51)});
-  EXPECT_EQ(Buffer(single, true), 4 + 2 * 51);
+  EXPECT_EQ(Buffer(single, BufferExtent::OuterRowsToo), 4 + 2 * 51);
 }
 
 TEST(EdgeBuffer, SiteBeyondTheLineEndIsMasked)
 {
   SurveyState state = RowsAlongX({{0, 25, 60, -30, 50}, {7, 9}});
-  EXPECT_EQ(Buffer(state, false), 5);  // -30 lies at t = .6, straight-line distances having no sign
+  EXPECT_EQ(Buffer(state), 5);  // -30 lies at t = .6, straight-line distances having no sign
   EXPECT_THAT(MaskedSites(state), ElementsAre(0, 2, 4, 5, 6));
 }
 
 TEST(EdgeBuffer, RowWhoseEndsCoincideIsMaskedWhole)
 {
   SurveyState state = RowsAlongX({{0, 10, 20, 10, 0}, {5}, EvenRow(51)});
-  EXPECT_EQ(Buffer(state, false), 5 + 1 + 4);
+  EXPECT_EQ(Buffer(state), 5 + 1 + 4);
   EXPECT_THAT(MaskedSites(state), ElementsAre(0, 1, 2, 3, 4, 5, 6, 7, 55, 56));
 }
 

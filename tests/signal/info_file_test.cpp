@@ -84,7 +84,7 @@ TEST(InfoFile, OfOneSignalWrapsValuesOfMoreThanTenCharacters)
   state.Kind = SurveyKind::Grid;
   state.RowNumber.clear();
   state.SignalCount = 1;
-  state.SignalUnits = "dS/m";
+  state.SignalUnits = ConductivityUnits::DeciSiemens;
   state.LogTransform = true;
   state.Signals.Rows[0] = {"log(EMv)", {{123456, 1234567, 1498}, {8, -123456}}};
   state.Algorithms = {AlgorithmState::NotApplicable, AlgorithmState::NotApplicable};

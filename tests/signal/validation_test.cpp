@@ -106,7 +106,7 @@ TEST_F(Acceptances, OfATransectRunBufferThenTransitionThenTheInfoFile)
 {
   SurveyState state = ShortRows();
   ScriptedDialogs dialogs({true});
-  const Acceptance done = AcceptConfiguration(state, {true, true}, dialogs, Noon);
+  const Acceptance done = AcceptConfiguration(state, {BufferExtent::OuterRowsToo, true}, dialogs, Noon);
   // Six rows lose two ends each, first and last row their ten sites once more.
   EXPECT_THAT(dialogs.Said,
               ElementsAre("inform: Note:   32 sites were masked by the edge buffering algorithm.",
@@ -129,7 +129,7 @@ TEST_F(Acceptances, WithoutOptionsShowNoneAndANoWritesNoTransitionFile)
   ScriptedDialogs dialogs({false});
   AcceptConfiguration(state, {}, dialogs, Noon);
   EXPECT_TRUE(state.Algorithms == (AlgorithmFacts{AlgorithmState::NotAsked, AlgorithmState::NotAsked}));
-  AcceptConfiguration(again, {false, true}, dialogs, Noon);
+  AcceptConfiguration(again, {BufferExtent::RowEnds, true}, dialogs, Noon);
   EXPECT_THAT(dialogs.Said.at(1), HasSubstr("Note:   12 sites were masked"));
   EXPECT_THAT(ListFiles(Project()), ElementsAre("ab12info.txt"));
 }
@@ -139,13 +139,14 @@ TEST_F(Acceptances, OfferTransectOptionsToNoGrid)
   SurveyState grid = DecorrelatedSurvey(GridSurvey(10, 5));
   ScriptedDialogs dialogs;
   for (const AcceptanceOptions& options :
-       {AcceptanceOptions{false, false}, AcceptanceOptions{std::nullopt, true}}) {
+       {AcceptanceOptions{BufferExtent::RowEnds, false}, AcceptanceOptions{BufferExtent::None, true}}) {
     EXPECT_NE(WholeRefusalOf(grid, [&] { AcceptConfiguration(grid, options, dialogs, Noon); }),
               "not refused");
   }
   SurveyState wide = ShortRows();
   wide.CoordX[5] = 1E+200;  // its square leaves the doubles
-  EXPECT_NE(WholeRefusalOf(wide, [&] { AcceptConfiguration(wide, {true, false}, dialogs, Noon); }),
+  EXPECT_NE(WholeRefusalOf(
+                wide, [&] { AcceptConfiguration(wide, {BufferExtent::OuterRowsToo, false}, dialogs, Noon); }),
             "not refused");
   EXPECT_THAT(dialogs.Said, IsEmpty());
 }

@@ -132,13 +132,8 @@ inline SurveyState ImportedSurvey(RawSurvey survey, const std::filesystem::path&
   state.SignalCount = survey.Signal2.empty() ? 1 : 2;
   state.SignalLabel = {"EMv", "EMh"};
   state.Kind = survey.RowNumber.empty() ? SurveyKind::Grid : SurveyKind::Transect;
-  state.SiteStatus.assign(survey.SiteId.size(), site_status::Free);
-  state.SiteId = std::move(survey.SiteId);
-  state.CoordX = std::move(survey.CoordX);
-  state.CoordY = std::move(survey.CoordY);
-  state.Signal1 = std::move(survey.Signal1);
-  state.Signal2 = std::move(survey.Signal2);
-  state.RowNumber = std::move(survey.RowNumber);
+  survey.SiteStatus.assign(survey.SiteId.size(), site_status::Free);
+  static_cast<SiteColumns&>(state) = std::move(survey);
   state.ImportFileName = "raw.txt";
   UpdateSignalStats(state);
   state.Menu.Apply(WorkflowEvent::SurveyImported);

@@ -47,7 +47,7 @@ TEST(SignalTransform, LogAndScaleInOneStepAddTheLogarithmOfTheFactor)
   EXPECT_EQ(state.Signal1[7], std::log(before.Signal1[7]) + std::log(0.01));
   EXPECT_EQ(state.Signal2[7], std::log(before.Signal2[7]) + std::log(0.01));
   EXPECT_TRUE(state.LogTransform);
-  EXPECT_EQ(state.SignalUnits, "dS/m");
+  EXPECT_EQ(state.SignalUnits, ConductivityUnits::DeciSiemens);
   EXPECT_EQ(state.Signals.Rows[1].Label, "two");
 
   form = LoadBasicStatsForm(state);
@@ -59,7 +59,7 @@ TEST(SignalTransform, LogAndScaleInOneStepAddTheLogarithmOfTheFactor)
   form.Check3 = true;
   ComputeSignals(state, form);
   EXPECT_NEAR(state.Signal2[7], before.Signal2[7], 1E-12);
-  EXPECT_EQ(state.SignalUnits, "mS/m");
+  EXPECT_EQ(state.SignalUnits, ConductivityUnits::MilliSiemens);
   EXPECT_NEAR(state.Signals.Rows[0].Statistics.Mean, before.Signals.Rows[0].Statistics.Mean, 1E-12);
 }
 

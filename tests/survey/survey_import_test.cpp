@@ -12,7 +12,7 @@ class SurveyImport : public testing::Test {
   ImportRequest RequestFor(const RawSurvey& survey, const RecordLayout& layout)
   {
     WriteText(directory_ / "raw.txt", RawFileText(survey, layout));
-    return {(directory_ / "raw.txt").string(), layout, {"EMv", "EMh"}, "mS/m", false};
+    return {(directory_ / "raw.txt").string(), layout, {"EMv", "EMh"}, ConductivityUnits::MilliSiemens, false};
   }
 
   TemporaryDirectory directory_;
@@ -48,7 +48,7 @@ TEST_F(SurveyImport, RefusalLeavesTheRecordWhole)
     return WholeRefusalOf(state, [&] { ImportSurvey(state, request); });
   };
   ImportRequest request = RequestFor(survey, {.SecondSignal = false});
-  EXPECT_THAT(refusal({"", layout, {}, "mS/m", false}),
+  EXPECT_THAT(refusal({"", layout, {}, ConductivityUnits::MilliSiemens, false}),
               "Error! File not found! Please re-enter filename information...");
   request.Layout = layout;
   EXPECT_THAT(refusal(request), HasSubstr("fewer data columns"));
@@ -79,7 +79,7 @@ TEST_F(SurveyImport, OneConstantSignalIsTaken)
 TEST(StructureForm, TransformOverwritesLabelsAndUnitsAreAPair)
 {
   StructureForm form;
-  EXPECT_EQ(form.Request().Units, "mS/m");
+  EXPECT_EQ(form.Request().Units, ConductivityUnits::MilliSiemens);
   form.Text1 = "mine";
   ChooseLogTransform(form, true);
   ChooseUnits(form, true);
@@ -87,7 +87,7 @@ TEST(StructureForm, TransformOverwritesLabelsAndUnitsAreAPair)
   const ImportRequest request = form.Request();
   EXPECT_EQ(request.Labels[0], "log(EMv)");
   EXPECT_EQ(request.Labels[1], "log(EMh)");
-  EXPECT_EQ(request.Units, "dS/m");
+  EXPECT_EQ(request.Units, ConductivityUnits::DeciSiemens);
   EXPECT_TRUE(request.Log && request.Layout.Transect && request.Layout.SecondSignal &&
               !request.Layout.SiteIdColumn);
   EXPECT_EQ(form.Label9(),

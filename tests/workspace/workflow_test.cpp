@@ -11,8 +11,8 @@ using enum WorkflowEvent;
 /// The open entries, in the order of the menu.
 std::string Open(const Workflow& menu)
 {
-  constexpr std::array<const char*, MenuEntryCount> Names = {"Project", "Import", "VPOF", "SG",   "Stats",
-                                                             "SigD",    "SigV",   "SRS",  "Mask", "SHowMap"};
+  constexpr std::array<const char*, 10> Names = {"Project", "Import", "VPOF", "SG",   "Stats",
+                                                 "SigD",    "SigV",   "SRS",  "Mask", "SHowMap"};
   std::string text;
   for (std::size_t i = 0; i < Names.size(); ++i) {
     text +=

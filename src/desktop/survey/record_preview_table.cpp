@@ -42,12 +42,14 @@ QString Shortened(const QString& text)
   return text.size() <= Enough ? text : text.left(Enough) + QChar(0x2026);
 }
 
-QString MarkFault(QTableWidget& table, const RecordPreview::Fault& fault)
+QString MarkFault(QTableWidget& table, const RecordPreview& preview)
 {
-  QTableWidgetItem* item = table.item(static_cast<int>(fault.Record), static_cast<int>(fault.Item));
+  const RecordPreview::Fault& fault = *preview.FirstFault;
   const QString reason = "Record " + QString::number(fault.Record + 1) + ", " +
-                         table.horizontalHeaderItem(static_cast<int>(fault.Item))->text() + ": \"" +
-                         Shortened(item->text()) + "\" would be refused: " + ToQt(fault.Reason) + ".";
+                         ToQt(preview.Headings[fault.Item]) + ": \"" +
+                         Shortened(ToQt(preview.Records[fault.Record][fault.Item])) +
+                         "\" would be refused: " + ToQt(fault.Reason) + ".";
+  QTableWidgetItem* item = table.item(static_cast<int>(fault.Record), static_cast<int>(fault.Item));
   QFont bold = item->font();
   bold.setBold(true);
   item->setFont(bold);
@@ -90,7 +92,7 @@ QString FillPreviewTable(QTableWidget& table, const ImportRequest& request)
     const RecordPreview preview = PreviewFile(request.FileName, request.Layout, request.Log);
     FillTable(table, preview);
     if (preview.FirstFault) {
-      return MarkFault(table, *preview.FirstFault);
+      return MarkFault(table, preview);
     }
     return preview.Records.empty() ? "The file is empty." : "The first records, as they would be read.";
   } catch (const Refusal& refusal) {
