@@ -7,6 +7,7 @@
 #include <nlohmann/json.hpp>
 
 #include <array>
+#include <ranges>
 
 namespace veln {
 
@@ -32,8 +33,7 @@ Json OrNull(const std::optional<Value>& value, Compose compose)
 Json SignalsOf(const SurveyState& state)
 {
   Json list = Json::array();
-  for (int i = 0; i < state.SignalCount; ++i) {
-    const auto& [label, statistics] = state.Signals.Rows.at(static_cast<std::size_t>(i));
+  for (const auto& [label, statistics] : state.Signals.Rows | std::views::take(state.SignalCount)) {
     list.push_back({{"label", label},
                     {"n", state.SurveySize},
                     {"mean", Number(statistics.Mean)},

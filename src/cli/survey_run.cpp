@@ -23,22 +23,13 @@
 #include "workspace/project.h"
 
 #include <ostream>
+#include <ranges>
 #include <system_error>
 #include <utility>
 
 namespace veln {
 
 namespace {
-
-std::string Count(std::size_t count, const std::string& thing)
-{
-  return GeneralForm(static_cast<double>(count)) + " " + thing + (count == 1 ? "" : "s");
-}
-
-std::string Count(int count, const std::string& thing)
-{
-  return Count(static_cast<std::size_t>(count), thing);
-}
 
 /// Shows the designs of an automatic selection as they are made.
 class SelectionProgress : public RunObserver {
@@ -115,10 +106,10 @@ class SurveyRun {
                         NumberToString(count));
     });
     record_.ImportedSites = state_.SurveySize;
-    std::string text = Count(state_.SurveySize, "site") + ", " + Count(state_.SignalCount, "signal") +
+    std::string text = Counted(state_.SurveySize, "site") + ", " + Counted(state_.SignalCount, "signal") +
                        " in " + UnitsText(state_.SignalUnits);
     if (IsTransect(state_)) {
-      text += ", " + Count(InitRows(state_.RowNumber).size(), "row");
+      text += ", " + Counted(InitRows(state_.RowNumber).size(), "row");
     }
     progress_.Step("Import", text);
   }
@@ -136,11 +127,12 @@ class SurveyRun {
       TranslateCoordinates(state_, translation);
     }
     if (!options_.Translations.empty()) {
-      progress_.Step("Coordinates", Count(options_.Translations.size(), "translation") + " applied");
+      progress_.Step("Coordinates", Counted(options_.Translations.size(), "translation") + " applied");
     }
-    for (int i = 0; i < state_.SignalCount; ++i) {
-      const SignalTexts row = TextsOf(state_.Signals.Rows.at(static_cast<std::size_t>(i)));
-      progress_.Step(i == 0 ? "Signals" : "", row.LblNm + ": mean " + row.LblMu + ", std " + row.LblStd +
+    const char* step = "Signals";
+    for (const SignalFacts& signal : state_.Signals.Rows | std::views::take(state_.SignalCount)) {
+      const SignalTexts row = TextsOf(signal);
+      progress_.Step(std::exchange(step, ""), row.LblNm + ": mean " + row.LblMu + ", std " + row.LblStd +
                                                   ", " + row.LblMn + " to " + row.LblMx);
     }
     if (state_.Signals.Correlation) {
@@ -153,8 +145,8 @@ class SurveyRun {
     const DecorrelationCounts counts = DecorrelateSignals(state_, options_.Levels);
     record_.Decorrelations.push_back({state_.SurveySize, counts});
     progress_.Step("Decorrelation",
-                   Count(state_.SurveySize, "site") + ": " + GeneralForm(counts.MaskedCount) + " masked, " +
-                       Count(counts.OutlierCount, "outlier") + " (levels " +
+                   Counted(state_.SurveySize, "site") + ": " + GeneralForm(counts.MaskedCount) + " masked, " +
+                       Counted(counts.OutlierCount, "outlier") + " (levels " +
                        LevelText(options_.Levels.Masking) + ", " + LevelText(options_.Levels.Outlier) + ")");
   }
 
@@ -165,7 +157,7 @@ class SurveyRun {
         return;
       }
       const int deleted = DeleteOutliers(state_);
-      progress_.Step("Validation", Count(deleted, "outlier") + " deleted");
+      progress_.Step("Validation", Counted(deleted, "outlier") + " deleted");
       Decorrelate();
     }
   }
@@ -201,7 +193,7 @@ class SurveyRun {
     if (const auto file = FinishManualSelection(form, state_, dialogs_, SystemDateTime)) {
       record_.Files.push_back(*file);
     }
-    progress_.Step("Manual design", Count(siteIds.size(), "site"));
+    progress_.Step("Manual design", Counted(siteIds.size(), "site"));
     record_.ManualSites = std::move(siteIds);
   }
 
@@ -239,7 +231,7 @@ class SurveyRun {
     }
     ReduceGridSize(DesignWindow(), state_, *options_.Reduction, dialogs_);
     record_.ReducedTo = DetermineAvSites(state_);
-    progress_.Step("Reduction", Count(*record_.ReducedTo, "site") + " available");
+    progress_.Step("Reduction", Counted(*record_.ReducedTo, "site") + " available");
   }
 
   void SelectAutomatically()
@@ -257,7 +249,8 @@ class SurveyRun {
     }
     record_.Selection = scores;
     const SelectionSummary summary = SummariseScores(*scores);
-    progress_.Step("Selection", Count(CombinationsOf(*scores).size(), "design") + " scored by Opt-Criteria");
+    progress_.Step("Selection",
+                   Counted(CombinationsOf(*scores).size(), "design") + " scored by Opt-Criteria");
     progress_.ScoreTable(*scores);
     if (summary.Best) {
       progress_.Step("", summary.lblBest);
@@ -311,13 +304,13 @@ class SurveyRun {
   {
     const DesignSettings& settings = saved.Made.Settings;
     std::string text =
-        Count(saved.Made.PointCount(), "site") + ", D-factor " + FormatNumber(settings.DFactor, "0.00");
+        Counted(saved.Made.PointCount(), "site") + ", D-factor " + FormatNumber(settings.DFactor, "0.00");
     if (settings.Parsing.ParseDenominator != 1) {
       text += ", stratum" + NumberToString(settings.Parsing.ParseModulus + 1) + " of" +
               NumberToString(settings.Parsing.ParseDenominator);
     }
     text += ": Opt-Criteria " + FormatNumber(saved.Made.OptCriteria, "0.000") + " after " +
-            Count(saved.Made.LoopCount, "loop");
+            Counted(saved.Made.LoopCount, "loop");
     progress_.Step("Design" + NumberToString(saved.Number), text);
     progress_.DesignTable(saved);
   }
@@ -345,7 +338,7 @@ class SurveyRun {
     for (const ComposedFile& file : files) {
       record_.Files.push_back(file.Path);
     }
-    progress_.Step("Pictures", Count(files.size(), "picture") + " drawn");
+    progress_.Step("Pictures", Counted(files.size(), "picture") + " drawn");
   }
 
   const RunOptions& options_;

@@ -1,22 +1,23 @@
 #include "forms/help_document.h"
 
-#include "forms/output_view.h"
+#include "toolkit/file_store.h"
 #include "toolkit/refusal.h"
 
-#include <utility>
+#include <filesystem>
 
 namespace veln {
 
 HelpDocument LoadHelpDocument(const SurveyState& state, const std::string& document, Dialogs& dialogs)
 {
+  const std::filesystem::path path = state.ProgramDir / "helpdocs" / (document + ".rtf");
   try {
     HelpDocument help;
-    help.Content = ReadHelpDocument(state, document);
+    help.Content = ReadFile(path);
     help.Text = ReadRichText(help.Content);
     return help;
   } catch (const Refusal&) {
     dialogs.Beep();
-    throw Refusal(HelpMissingWarning(HelpDocumentPath(state, document)));
+    throw Refusal("Warning!  File resource error.  VELN can not find the following file:\n" + path.string());
   }
 }
 

@@ -9,12 +9,6 @@ namespace veln {
 
 namespace {
 
-/// "1 site", "1500 sites".
-std::string Counted(std::int64_t count, const std::string& thing)
-{
-  return GeneralForm(static_cast<double>(count)) + " " + thing + (count == 1 ? "" : "s");
-}
-
 std::int64_t CountOf(const SurveyState& state, std::int16_t status)
 {
   return std::ranges::count(state.SiteStatus, status);

@@ -2,29 +2,8 @@
 
 #include "toolkit/editor_command.h"
 #include "toolkit/file_store.h"
-#include "toolkit/refusal.h"
 
 namespace veln {
-
-std::filesystem::path HelpDocumentPath(const SurveyState& state, const std::string& document)
-{
-  return state.ProgramDir / "helpdocs" / (document + ".rtf");
-}
-
-std::string HelpMissingWarning(const std::filesystem::path& document)
-{
-  return "Warning!  File resource error.  VELN can not find the following file:\n" + document.string();
-}
-
-std::string ReadHelpDocument(const SurveyState& state, const std::string& document)
-{
-  const std::filesystem::path path = HelpDocumentPath(state, document);
-  try {
-    return ReadFile(path);
-  } catch (const Refusal&) {
-    throw Refusal(HelpMissingWarning(path));
-  }
-}
 
 FileQuestion OutputFileQuestion(const SurveyState& state)
 {

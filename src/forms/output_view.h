@@ -3,19 +3,9 @@
 #include "toolkit/dialogs.h"
 #include "workspace/survey_state.h"
 
-#include <filesystem>
 #include <string>
 
 namespace veln {
-
-/// Where a help document ("hdoc04") lies.
-std::filesystem::path HelpDocumentPath(const SurveyState& state, const std::string& document);
-
-/// What is told, after a beep, when a help document can't be loaded.
-std::string HelpMissingWarning(const std::filesystem::path& document);
-
-/// Reads a help document, as rich text. Throws Refusal with the warning above if it can't be read.
-std::string ReadHelpDocument(const SurveyState& state, const std::string& document);
 
 /// The file dialog of "View / Print Output Files": the five filters, in the project's directory.
 FileQuestion OutputFileQuestion(const SurveyState& state);

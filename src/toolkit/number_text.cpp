@@ -186,6 +186,11 @@ std::string NumberToString(double value)
   return text.front() == '-' ? text : " " + text;
 }
 
+std::string Counted(std::int64_t count, const std::string& thing)
+{
+  return GeneralForm(static_cast<double>(count)) + " " + thing + (count == 1 ? "" : "s");
+}
+
 std::string PrintedNumber(double value)
 {
   return NumberToString(value) + " ";

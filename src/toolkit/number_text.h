@@ -16,6 +16,9 @@ std::string GeneralForm(double value);
 /// of the sign of a non-negative number (" .5", "-.25", " 3").
 std::string NumberToString(double value);
 
+/// A count of things: "1 site", "1500 sites".
+std::string Counted(std::int64_t count, const std::string& thing);
+
 /// The form of a number in a text file: the number-to-string form and one trailing blank (" .5 ").
 std::string PrintedNumber(double value);
 

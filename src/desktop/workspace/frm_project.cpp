@@ -63,7 +63,7 @@ QGroupBox* frmProject::MakeProjectList()
   connect(projects_, &QListWidget::itemSelectionChanged, this, [this] {
     const QList<QListWidgetItem*> selected = projects_->selectedItems();
     if (!selected.isEmpty()) {
-      ChooseProject(form_, FromQt(selected.constFirst()->text()));
+      ChooseProject(form_, form_.List1.at(projects_->row(selected.constFirst())));
       Mirror();
     }
   });
