@@ -46,7 +46,7 @@ SurveyState ImportedSurvey()
   SurveyState state;
   state.ProgramDir = std::filesystem::temp_directory_path();
   AcceptProject(state, "bench", "BNCH", "");
-  ImportSurvey(state, {LargestSurvey, Layout, {"EMv", "EMh"}, "mS/m", false});
+  ImportSurvey(state, {LargestSurvey, Layout, {"EMv", "EMh"}});
   return state;
 }
 

@@ -23,7 +23,7 @@ const SurveyState& LargestSurvey()
     SurveyState state;
     state.ProgramDir = std::filesystem::temp_directory_path();
     AcceptProject(state, "bench", "BNCH", "");
-    ImportSurvey(state, {VELN_LARGEST_SURVEY, {true, true, true}, {"EMv", "EMh"}, "mS/m", false});
+    ImportSurvey(state, {VELN_LARGEST_SURVEY, {true, true, true}, {"EMv", "EMh"}});
     DecorrelateSignals(state, {});
     return state;
   }();

@@ -29,7 +29,7 @@ const SurveyState& Survey()
     SurveyState state;
     state.ProgramDir = std::filesystem::temp_directory_path();
     AcceptProject(state, "bench", "BNCH", "");
-    ImportSurvey(state, {LargestSurvey, {true, true, true}, {"EMv", "EMh"}, "mS/m", false});
+    ImportSurvey(state, {LargestSurvey, {true, true, true}, {"EMv", "EMh"}});
     return state;
   }();
   return State;

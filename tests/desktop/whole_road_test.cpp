@@ -83,11 +83,15 @@ class WholeRoad : public MainWindowTest {
     state.ProgramDir = Shared.State.ProgramDir;
     ScriptedDialogs dialogs({true});
     AcceptProject(state, "farm", "ab12", "North block");
-    ImportSurvey(state, {RawFile().string(), {true, true, true}, {"log(EMv)", "log(EMh)"}, "mS/m", true});
+    ImportSurvey(state, {RawFile().string(),
+                         {true, true, true},
+                         {"log(EMv)", "log(EMh)"},
+                         ConductivityUnits::MilliSiemens,
+                         true});
     DecorrelateSignals(state, {});
     EXPECT_EQ(DeleteOutliers(state), 1);
     DecorrelateSignals(state, {});
-    AcceptConfiguration(state, {false, true}, dialogs, Shared.Now());
+    AcceptConfiguration(state, {BufferExtent::RowEnds, true}, dialogs, Shared.Now());
     SrsForm form = OpenSrs(state, dialogs);
     RunObserver nobody;
     RunDesign(form, state, dialogs, nobody);

@@ -12,7 +12,8 @@ class SurveyImport : public testing::Test {
   ImportRequest RequestFor(const RawSurvey& survey, const RecordLayout& layout)
   {
     WriteText(directory_ / "raw.txt", RawFileText(survey, layout));
-    return {(directory_ / "raw.txt").string(), layout, {"EMv", "EMh"}, ConductivityUnits::MilliSiemens, false};
+    return {
+        (directory_ / "raw.txt").string(), layout, {"EMv", "EMh"}, ConductivityUnits::MilliSiemens, false};
   }
 
   TemporaryDirectory directory_;
