@@ -3,6 +3,7 @@
 #include "support/testing.h"
 #include "toolkit/number_text.h"
 
+#include <cstdlib>
 #include <random>
 
 namespace veln {
@@ -20,7 +21,9 @@ void ExpectPlainRule(double value)
 
 TEST(RoundedNumber, EqualsThePlainRuleAtTiesAndTheirNeighbours)
 {
-  for (int thousandths = -40'000; thousandths <= 40'000; thousandths += 5) {
+  // Each tie of the first few units, and of the tens every seventh.
+  for (int thousandths = -40'000; thousandths <= 40'000;
+       thousandths += std::abs(thousandths) < 4'000 ? 5 : 35) {
     for (const double scale : {1E-3, 1E-6, 1E-7}) {
       const double tie = thousandths * scale;
       ExpectPlainRule(tie);
@@ -33,7 +36,7 @@ TEST(RoundedNumber, EqualsThePlainRuleAtTiesAndTheirNeighbours)
 TEST(RoundedNumber, EqualsThePlainRuleForNumbersOfAllSizes)
 {
   std::mt19937_64 random(20261122);
-  for (int i = 0; i < 50'000; ++i) {
+  for (int i = 0; i < 15'000; ++i) {
     const double value = std::ldexp(static_cast<double>(random() >> 11U), -static_cast<int>(random() % 90));
     ExpectPlainRule(value);
     ExpectPlainRule(-value);
