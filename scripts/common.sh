@@ -1,7 +1,12 @@
 # Sourced by run, test, lint and bench, which set `root` to the project's folder.
 
-build_packages=(g++ cmake ninja-build libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev)
+# What every build needs, and what the desktop program needs besides: a new library is one more word here.
+build_packages=(g++ cmake ninja-build ccache libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev)
 desktop_packages=(qt6-base-dev)
+
+# The compiler cache may look things up for sources with precompiled headers too, and takes the list of headers from
+# the compiler, in place of preprocessing each source once more.
+export CCACHE_DEPEND=1 CCACHE_SLOPPINESS=pch_defines,time_macros
 
 # install_packages NAME...: installs by apt what is missing; without anything missing it takes no time.
 install_packages() {
