@@ -1,0 +1,62 @@
+#include "quality/reading_check.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace veln {
+
+namespace {
+
+constexpr std::size_t Reach = 6;
+constexpr std::size_t FewestNeighbours = 4;
+
+/// The sites near a site in its row, itself left out. A row is a run of sites with one row number.
+std::vector<std::size_t> Neighbours(const SurveyFacts& survey, std::size_t site)
+{
+  std::vector<std::size_t> neighbours;
+  for (std::size_t i = site; i-- > 0 && site - i <= Reach && survey.Row[i] == survey.Row[site];) {
+    neighbours.push_back(i);
+  }
+  for (std::size_t i = site + 1;
+       i < survey.Row.size() && i - site <= Reach && survey.Row[i] == survey.Row[site]; ++i) {
+    neighbours.push_back(i);
+  }
+  return neighbours;
+}
+
+double Median(std::vector<double> values)
+{
+  std::ranges::sort(values);
+  const std::size_t middle = values.size() / 2;
+  return values.size() % 2 == 1 ? values[middle] : (values[middle - 1] + values[middle]) / 2;
+}
+
+double Difference(std::span<const double> signal, const std::vector<std::size_t>& neighbours,
+                  std::size_t site, double deviation)
+{
+  std::vector<double> values;
+  for (const std::size_t i : neighbours) {
+    values.push_back(signal[i]);
+  }
+  return std::abs(signal[site] - Median(std::move(values))) / deviation;
+}
+
+}  // namespace
+
+std::optional<double> ReadingDifference(const SurveyFacts& survey, std::size_t site)
+{
+  if (survey.Row.empty()) {
+    return std::nullopt;
+  }
+  const std::vector<std::size_t> neighbours = Neighbours(survey, site);
+  if (neighbours.size() < FewestNeighbours) {
+    return std::nullopt;
+  }
+  double difference = Difference(survey.S1, neighbours, site, survey.SignalStd[0]);
+  if (survey.TwoSignals()) {
+    difference = std::max(difference, Difference(survey.S2, neighbours, site, survey.SignalStd[1]));
+  }
+  return difference;
+}
+
+}  // namespace veln
