@@ -11,7 +11,8 @@
 
 namespace veln {
 
-/// A miss of more standard deviations than this counts: a tenth of what the pattern of targets reaches from its centre.
+/// A miss of more standard deviations than this counts: a tenth of what the pattern of targets reaches from
+/// its centre.
 inline constexpr double CountedMiss = 0.3;
 /// A reading that differs more from its neighbours, in standard deviations, is no picture of its place.
 inline constexpr double DifferingReading = 1;
