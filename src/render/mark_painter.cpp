@@ -37,7 +37,7 @@ QColor ToQt(Colour colour)
 }
 
 MarkPainter::MarkPainter(QPainter& painter, const Drawing& drawing, const DrawingFrame& frame)
-    : painter_(painter), drawing_(drawing), frame_(frame), textEnd_(frame.Target.right())
+    : painter_(painter), drawing_(drawing), frame_(frame)
 {
   if (DotStamps::Suit(painter)) {
     stamps_.emplace(painter);
@@ -87,8 +87,9 @@ void MarkPainter::operator()(const TextMark& text) const
   const QPointF top = Map(text.At);
   const double width = metrics.horizontalAdvance(shown);
   double left = top.x() - width * ShareBefore(text.Anchor);
-  if (left < textEnd_) {
-    left = std::min(left, textEnd_ - width - frame_.Enlarged);
+  const double end = frame_.Target.right();
+  if (left < end) {  // the number of a site near the edge stays whole
+    left = std::min(left, end - width - frame_.Enlarged);
   }
   painter_.drawText(QPointF(left, top.y() + metrics.ascent()), shown);
 }

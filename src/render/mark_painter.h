@@ -25,10 +25,6 @@ class MarkPainter {
   void operator()(const BoxMark& box) const;
   void operator()(const TextMark& text) const;
 
-  /// Texts that begin left of `x`, in the device's coordinates, end there at the latest: the number of a site
-  /// near the edge stays whole.
-  void EndTextsAt(double x) { textEnd_ = x; }
-
   [[nodiscard]] QPointF Map(DrawPoint point) const { return frame_.Map(drawing_, point); }
   [[nodiscard]] QPen StrokeOf(const Pen& pen) const;
 
@@ -36,7 +32,6 @@ class MarkPainter {
   QPainter& painter_;
   const Drawing& drawing_;
   const DrawingFrame& frame_;
-  double textEnd_;
   std::optional<DotStamps> stamps_;  // where pixels are whole
 };
 
