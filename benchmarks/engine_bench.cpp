@@ -32,7 +32,7 @@ class QuietDialogs : public Dialogs {
  public:
   void Inform(const std::string& /*text*/) override {}
   void Warn(const std::string& /*text*/) override {}
-  bool Ask(const std::string& /*text*/) override { return true; }
+  bool Ask(Question /*question*/, const std::string& /*text*/) override { return true; }
   void Beep() override {}
   std::optional<std::filesystem::path> ShowOpen(const FileQuestion& /*question*/) override
   {

@@ -133,8 +133,9 @@ std::optional<SelectionScores> SelectDesigns(SrsForm& form, SurveyState& state, 
   const int strata = StrataToAnalyse(state.SurveySize);
   const std::vector<Combination> combinations = Combinations(strata, limited);
   const auto count = static_cast<int>(combinations.size());
-  if (!dialogs.Ask("Note: there are " + NumberToString(count) +
-                   " designs to analyze.\nDo you still wish to invoke the ADS algorithm?")) {
+  if (!dialogs.Ask(Question::ScoreDesigns,
+                   "Note: there are " + NumberToString(count) +
+                       " designs to analyze.\nDo you still wish to invoke the ADS algorithm?")) {
     return std::nullopt;
   }
   const SrsForm formBefore = form;

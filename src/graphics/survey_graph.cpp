@@ -116,7 +116,8 @@ DesignFlags ExistingDesigns(const SurveyState& state)
 bool StartTranslation(SurveyGraph& graph, Dialogs& dialogs)
 {
   dialogs.Beep();
-  if (!dialogs.Ask("WARNING!  Any translation(s) you perform will \n"
+  if (!dialogs.Ask(Question::TranslateForGood,
+                   "WARNING!  Any translation(s) you perform will \n"
                    "PERMANENTLY change the X and Y coordinates!\n\n"
                    "Do you still wish to proceed with this option?")) {
     return false;

@@ -24,7 +24,8 @@ void RunEdgeBuffering(SurveyState& state, BufferExtent extent, Dialogs& dialogs,
 
 void WriteTransitionFile(const SurveyState& state, Dialogs& dialogs, Acceptance& acceptance)
 {
-  if (!dialogs.Ask("Would you like an output file of the TA data values created and saved?")) {
+  if (!dialogs.Ask(Question::WriteTransitionFile,
+                   "Would you like an output file of the TA data values created and saved?")) {
     return;
   }
   const auto path = OutputPath(state, "tstd.std");

@@ -71,7 +71,7 @@ bool CheckAlphaCode(const fs::path& programDir, const std::string& project, cons
     return true;
   }
   dialogs.Beep();
-  if (dialogs.Ask(FieldInUseQuestion())) {
+  if (dialogs.Ask(Question::UseFieldAgain, FieldInUseQuestion())) {
     return true;
   }
   dialogs.Beep();

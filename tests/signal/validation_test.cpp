@@ -113,6 +113,7 @@ TEST_F(Acceptances, OfATransectRunBufferThenTransitionThenTheInfoFile)
                           "inform: Note:   60 sites exceed the global signal variability level.",
                           "ask: Would you like an output file of the TA data values created and saved?",
                           "inform: Data file information & statistics saved to ab12info.txt"));
+  EXPECT_THAT(dialogs.Named, ElementsAre(Question::WriteTransitionFile));
   EXPECT_EQ(done.EdgeMasked, 32);
   EXPECT_EQ(done.HighScores, 60);
   EXPECT_EQ(std::ranges::count(state.SiteStatus, site_status::Masked), 2 * 10 + 4 * 2 + 1);
