@@ -1,5 +1,6 @@
 #include "cli/run_options.h"
 
+#include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
 #include "workspace/project.h"
 #include "workspace/survey_state.h"
@@ -124,10 +125,12 @@ void AddOutputOptions(CLI::App& run, RawOptions& raw)
   throw Refusal(message, RefusalKind::Usage);
 }
 
-void RequireOneOf(const std::string& option, const std::string& text, const std::vector<std::string>& choices)
+/// The place of a text among the choices.
+std::size_t RequireOneOf(const std::string& option, const std::string& text,
+                         const std::vector<std::string>& choices)
 {
-  if (std::ranges::find(choices, text) != choices.end()) {
-    return;
+  if (const auto found = std::ranges::find(choices, text); found != choices.end()) {
+    return static_cast<std::size_t>(found - choices.begin());
   }
   std::string list;
   for (const std::string& choice : choices) {
@@ -246,9 +249,11 @@ void ReadDesigns(const RawOptions& raw, RunOptions& options)
     options.ManualSites = ReadSiteNumbers("--manual", *raw.Manual);
   }
   if (raw.Reduction) {
-    const std::vector<std::string> shares = {"50", "67", "75", "80"};
-    RequireOneOf("--reduce", *raw.Reduction, shares);
-    options.Reduction = 2 + static_cast<int>(std::ranges::find(shares, *raw.Reduction) - shares.begin());
+    std::vector<std::string> shares;
+    for (const ReductionStep& step : ReductionSteps) {
+      shares.push_back(GeneralForm(step.Percent));
+    }
+    options.Reduction = ReductionSteps.at(RequireOneOf("--reduce", *raw.Reduction, shares));
   }
   if (options.Designs.empty() && !raw.Selection && !raw.Manual) {
     options.Designs.emplace_back();

@@ -90,7 +90,7 @@ TEST(Translation, AsksClearsThePlotAndTellsWhenItIsDone)
   const Limits x = graph.XRange;
   PctForm form;
   form.Selected = TranslationKind::Swap;
-  ApplyTranslation(form, graph, state, nullptr);
+  ApplyTranslation(form, graph, state, false);
   EXPECT_TRUE(form.Closed);
   EXPECT_EQ(graph.Shown.Title, "Translation Completed...");
   EXPECT_EQ(graph.YRange.Maximum, x.Maximum);
@@ -103,11 +103,9 @@ TEST(Translation, IsRefusedWhileADesignWaits)
 {
   SurveyState state = SmallExample();
   SurveyGraph graph = OpenGraph(state);
-  SrsForm design;
-  design.Finished.emplace();
   PctForm form;
   form.Selected = TranslationKind::ReverseX;
-  EXPECT_EQ(WholeRefusalOf(state, [&] { ApplyTranslation(form, graph, state, &design); }),
+  EXPECT_EQ(WholeRefusalOf(state, [&] { ApplyTranslation(form, graph, state, true); }),
             "Please save or discard the current sample design first.");
   EXPECT_FALSE(form.Closed);
 }

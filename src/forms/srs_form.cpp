@@ -1,7 +1,7 @@
-#include "design/srs_form.h"
+#include "forms/srs_form.h"
 
 #include "design/design_files.h"
-#include "design/survey_reduction.h"
+#include "forms/reduction_form.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
 
@@ -11,15 +11,6 @@
 namespace veln {
 
 namespace {
-
-constexpr int FewestSites = 24;
-
-/// Free sites that a size needs, with or without support sites.
-int SitesNeeded(DesignSize size)
-{
-  constexpr std::array<int, 3> Needed = {FewestSites, 48, 80};
-  return Needed.at(static_cast<std::size_t>(size));
-}
 
 bool& Enabled(SrsForm& form, DesignSize size)
 {
@@ -33,61 +24,35 @@ void SelectSize(SrsForm& form, DesignSize size)
   form.LblSS = GeneralForm(SampleSize(size, form.IncludeSupportSites));
 }
 
-/// Closes a size, and moves on to the next smaller one if it was selected.
-void DisableSize(SrsForm& form, DesignSize size, DesignSize smaller)
+/// Back to Ready: nothing is left of the finished design, nor of its stratum.
+void EndDesign(SrsForm& form, SurveyState& state, Dialogs& dialogs)
 {
-  Enabled(form, size) = false;
-  if (form.Size == size) {
-    SelectSize(form, smaller);
-  }
+  form.Finished.reset();
+  form.Held.reset();
+  CancelParsing(form);
+  InitPossSP(form, state, DetermineAvSites(state), dialogs);
 }
 
-void EndParsing(SrsForm& form)
-{
-  SetParseValues(form, 1, 0);
-  form.Check3 = false;
-}
-
-/// Keeps the status line of the window while it passes a run on to its observer.
+/// Keeps the status line of the window.
 class StatusKeeper : public RunObserver {
  public:
-  StatusKeeper(SrsForm& form, RunObserver& observer) : form_(form), observer_(observer) {}
+  StatusKeeper(SrsForm& form, RunObserver& observer) : RunObserver(&observer), form_(form) {}
 
   void Status(const std::string& text) override
   {
     form_.LblMS = text;
-    observer_.Status(text);
+    RunObserver::Status(text);
   }
-  void MapReady() override { observer_.MapReady(); }
-  void CandidatesFound(int point, const PointCandidates& candidates) override
-  {
-    observer_.CandidatesFound(point, candidates);
-  }
-  void Started(std::span<const PointCandidates> points) override { observer_.Started(points); }
-  void Exchanged(const CandidateSite& leaving, const CandidateSite& entering) override
-  {
-    observer_.Exchanged(leaving, entering);
-  }
-  void SupportFound(const CandidateSite& site) override { observer_.SupportFound(site); }
 
  private:
   SrsForm& form_;
-  RunObserver& observer_;
 };
-
-std::string MissingSupportNote(int missing)
-{
-  return "Note: " + GeneralForm(missing) +
-         (missing == 1 ? " support site could not be placed" : " support sites could not be placed") +
-         ", since no free survey site lies near enough to the centre of the signal data.";
-}
 
 }  // namespace
 
 std::string SrsForm::Text1() const
 {
-  constexpr double Hundredths = 100;
-  return FormatNumber(HScroll1 / Hundredths, "0.00");
+  return FormatNumber(Settings().DFactor, "0.00");
 }
 
 std::string SrsForm::OptionCaption(DesignSize size) const
@@ -98,19 +63,13 @@ std::string SrsForm::OptionCaption(DesignSize size) const
 
 DesignSettings SrsForm::Settings() const
 {
-  return {Size, ParseNumber(Text1()).value_or(1), Check2, Parsing, IncludeSupportSites, "0.000"};
+  constexpr double Hundredths = 100;
+  return {Size, HScroll1 / Hundredths, Check2, Parsing, IncludeSupportSites, "0.000"};
 }
 
 LevelListing SrsForm::Listing(const SurveyState& state) const
 {
-  return {Size,
-          Text1(),
-          LblSS,
-          LblSC,
-          state.SignalCount,
-          Check3,
-          IncludeSupportSites,
-          TransitionCounts(state, Check2)};
+  return {Settings(), state.SignalCount, Check3, TransitionCounts(state, Check2)};
 }
 
 SrsForm OpenSrs(SurveyState& state, Dialogs& dialogs)
@@ -163,21 +122,19 @@ void SwitchParsing(SrsForm& form, bool on)
 {
   RequireReady(form);
   if (!form.Check3Enabled) {
-    throw Refusal("Error!  Invalid Parsing Values!");
+    throw Refusal(InvalidParsing);
   }
   form.Check3 = on;
   if (!on) {
-    SetParseValues(form, 1, 0);
+    CancelParsing(form);
   }
 }
 
 void SetParseValues(SrsForm& form, int denominator, int modulus)
 {
-  constexpr int MostStrata = 10;
-  const bool valid = denominator >= 1 && denominator <= MostStrata && modulus >= 0 && modulus < MostStrata &&
-                     denominator > modulus;
-  if (!valid) {
-    throw Refusal("Error!  Invalid Parsing Values!");
+  constexpr int LargestDenominator = 10;
+  if (denominator > LargestDenominator || modulus < 0 || modulus >= denominator) {
+    throw Refusal(InvalidParsing);
   }
   form.Parsing = {denominator, modulus};
 }
@@ -197,12 +154,15 @@ void RunDesign(SrsForm& form, SurveyState& state, Dialogs& dialogs, RunObserver&
   state.Menu.Require(MenuEntry::mnuSRS, "Sample design");
   StatusKeeper keeper(form, observer);
   form.Finished = MakeDesign(state, form.Settings(), keeper);
+  form.Held = HoldCandidates(state, *form.Finished);
   form.OptCriteria = form.Finished->OptCriteria;
   form.LoopCount = form.Finished->LoopCount;
   form.Command3Caption = "Finished";
   form.Command3ToolTip = "return to main program menu";
   if (form.Finished->MissingSupportSites > 0) {
-    dialogs.Inform(MissingSupportNote(form.Finished->MissingSupportSites));
+    dialogs.Inform("Note: " + Counted(form.Finished->MissingSupportSites, "support site") +
+                   " could not be placed, since no free survey site lies near enough to the centre of the "
+                   "signal data.");
   }
 }
 
@@ -212,13 +172,8 @@ std::vector<std::filesystem::path> SaveDesign(SrsForm& form, SurveyState& state,
   if (!form.Finished) {
     throw Refusal("There is no finished design to save.");
   }
-  const DesignToSave save{*form.Finished, RoundToInt16(ParseNumber(form.LblSS).value_or(0)).value_or(0),
-                          form.SurveySizeNote};
-  const auto paths = SaveSamInfo(state, save, dialogs, clock);
-  form.Finished.reset();
-  ClearOldTS(state);
-  EndParsing(form);
-  InitPossSP(form, state, DetermineAvSites(state), dialogs);
+  const auto paths = SaveSamInfo(state, {*form.Finished, form.SurveySizeNote}, dialogs, clock);
+  EndDesign(form, state, dialogs);
   if (state.DesignCount == MaxDesigns) {
     dialogs.Inform("Note: This was your 5th sampling design.  No further designs can be generated...");
     state.Menu.Apply(WorkflowEvent::DesignsExhausted);
@@ -232,16 +187,13 @@ std::vector<std::filesystem::path> SaveDesign(SrsForm& form, SurveyState& state,
 
 void DiscardDesign(SrsForm& form, SurveyState& state, Dialogs& dialogs)
 {
-  form.Finished.reset();
-  ClearOldTS(state);
-  EndParsing(form);
-  InitPossSP(form, state, DetermineAvSites(state), dialogs);
+  EndDesign(form, state, dialogs);
 }
 
-void CloseSrs(SrsForm& form, SurveyState& state)
+void CloseSrs(SrsForm& form)
 {
-  ClearOldTS(state);
   form.Finished.reset();
+  form.Held.reset();
   form.Closed = true;
 }
 
@@ -251,13 +203,13 @@ void InitPossSP(SrsForm& form, SurveyState& state, int available, Dialogs& dialo
   const std::string active = NumberToString(available);
   form.LblMS = "Total Survey size = " + total + "  Active (available) Survey size = " + active;
   form.SurveySizeNote = "(Total Survey Size = " + total + "   Active Survey Size = " + active + ")";
-  if (available < SitesNeeded(DesignSize::Full)) {
-    DisableSize(form, DesignSize::Full, DesignSize::Standard);
+  for (const DesignSize size : {DesignSize::Full, DesignSize::Standard}) {
+    if (available < SitesNeeded(size)) {
+      Enabled(form, size) = false;  // for as long as the window is open
+    }
   }
-  if (available < SitesNeeded(DesignSize::Standard)) {
-    DisableSize(form, DesignSize::Standard, DesignSize::Limited);
-  }
-  if (available < FewestSites) {
+  SelectSize(form, AllowedSize(form.Size, available));
+  if (available < FewestAvailable) {
     dialogs.Inform(TooFewSites);
     state.Menu.Apply(WorkflowEvent::DesignsExhausted);
     form.Closed = true;

@@ -1,4 +1,4 @@
-#include "design/design_table.h"
+#include "forms/design_table.h"
 
 #include "design/manual_design.h"
 #include "toolkit/number_text.h"
@@ -14,6 +14,7 @@ namespace {
 
 constexpr const char* CoordinateFormat = "########0.0#####";
 constexpr const char* LevelFormat = "0.00";
+constexpr std::size_t PlaceColumns = 4;  // point, site ID, x, y
 
 using Row = std::vector<std::string>;
 
@@ -41,18 +42,6 @@ void AddDecorrelated(Row& row, const SurveyState& state, std::size_t i)
   }
 }
 
-/// What a target point asks for; nothing for a support site.
-void AddTarget(Row& row, const SurveyState& state, const LevelRow& levels, bool support)
-{
-  const auto text = [support](double level) { return support ? "" : FormatNumber(level, LevelFormat); };
-  if (HasTwoSignals(state)) {
-    row.push_back(text(levels[1]));
-    row.push_back(text(levels[2]));
-  } else {
-    row.push_back(text(levels[0]));
-  }
-}
-
 }  // namespace
 
 TextTable ListDesignSites(const SurveyState& state, const std::optional<Design>& design)
@@ -64,18 +53,16 @@ TextTable ListDesignSites(const SurveyState& state, const std::optional<Design>&
   if (!design) {
     return table;
   }
-  for (int point = 1; point <= design->PointCount(); ++point) {
-    const auto index = static_cast<std::size_t>(point) - 1;
-    const CandidateSite& site = design->Sites.at(index)[0];
-    if (!site.Exists()) {
-      continue;
-    }
-    const bool support = point > TargetPoints(design->Settings.Size);
-    Row row = {GeneralForm(point), GeneralForm(site.SiteId), FormatNumber(site.X, CoordinateFormat),
+  for (const DesignPoint& point : PointsOf(*design)) {
+    const CandidateSite& site = point.Site;
+    Row row = {GeneralForm(point.Number), GeneralForm(site.SiteId), FormatNumber(site.X, CoordinateFormat),
                FormatNumber(site.Y, CoordinateFormat)};
-    AddTarget(row, state, support ? LevelRow{} : design->Levels.at(index), support);
+    for (const double level : point.Target) {
+      row.push_back(FormatNumber(level, LevelFormat));
+    }
+    row.resize(PlaceColumns + static_cast<std::size_t>(state.SignalCount));  // a support site has no target
     AddDecorrelated(row, state, site.Index);
-    row.emplace_back(support ? "yes" : "");
+    row.emplace_back(point.Support ? "yes" : "");
     table.Rows.push_back(std::move(row));
   }
   return table;

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "design/design_run.h"
+#include "design/survey_reduction.h"
+#include "forms/level_list.h"
 #include "toolkit/clock.h"
 #include "toolkit/dialogs.h"
 #include "workspace/survey_state.h"
@@ -13,19 +15,17 @@
 
 namespace veln {
 
-inline constexpr int LowestDFactor = 80;    ///< hundredths
-inline constexpr int HighestDFactor = 120;  ///< hundredths
-inline constexpr int PlainDFactor = 100;    ///< hundredths
-inline constexpr int FewestSitesForParsing = 400;
-
 /// What is told when fewer than 24 free sites are left, which closes the window and the design menu.
 inline constexpr const char* TooFewSites =
     "There are not enough avaliable survey sites to generate any more Sampling Designs";
 
-/// The entries of the reduction menu of `frmSRS`; `Steps` are those for 50, 67, 75 and 80 percent.
+/// What is told of strata that there are not.
+inline constexpr const char* InvalidParsing = "Error!  Invalid Parsing Values!";
+
+/// The entries of the reduction menu of `frmSRS`, one a step.
 struct ReductionMenu {
   bool mnuSRSReduce = false;
-  std::array<bool, 4> Steps{};
+  std::array<bool, ReductionSteps.size()> Steps{};
   bool mnuSRSRecover = false;
   bool operator==(const ReductionMenu&) const = default;
 };
@@ -37,6 +37,7 @@ struct ReductionMenu {
 struct SrsForm {
   bool Closed = false;             ///< the window is not to stay open
   std::optional<Design> Finished;  ///< the design that waits for a decision; empty in the Ready state
+  CandidateHold Held;              ///< the candidates of that design
   DesignSize Size = DesignSize::Standard;
   std::array<bool, 3> OptionEnabled = {true, true, true};  ///< by size
   bool Check1 = false;          ///< "Adjust Design Factor": the D-factor's controls are visible
@@ -106,7 +107,7 @@ std::vector<std::filesystem::path> SaveDesign(SrsForm& form, SurveyState& state,
 void DiscardDesign(SrsForm& form, SurveyState& state, Dialogs& dialogs);
 
 /// `Command3`, in every state: a design that is not saved leaves no trace.
-void CloseSrs(SrsForm& form, SurveyState& state);
+void CloseSrs(SrsForm& form);
 
 /// `InitPossSP`: the rules on available sites, with `available` the free sites: 80 for the full size, 48 for
 /// the standard size, 24 for any. Refreshes the status line and the survey size note.
