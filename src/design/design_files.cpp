@@ -1,8 +1,8 @@
 #include "design/design_files.h"
 
-#include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 #include "toolkit/text_report.h"
+#include "workspace/project.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -158,7 +158,8 @@ std::vector<std::filesystem::path> SaveSamInfo(SurveyState& state, const DesignT
   PutTargetTable(report, design);
   SiteLists lists{report, {}, {}};
   PutSiteLists(lists, design);
-  WriteFiles(
+  WriteFieldFiles(
+      state,
       {{paths[0], report.Content()}, {paths[1], lists.Gps.Content()}, {paths[2], lists.Xrs.Content()}});
 
   state.DesignCount = design.Number;

@@ -1,9 +1,9 @@
 #include "design/manual_design.h"
 
-#include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
 #include "toolkit/text_report.h"
+#include "workspace/project.h"
 
 #include <algorithm>
 #include <cstdint>
@@ -103,7 +103,7 @@ std::filesystem::path SaveUDSamInfo(SurveyState& state, Dialogs& dialogs, const 
   const std::vector<std::size_t> sites = SelectedSites(state);
   const std::filesystem::path path = OutputPath(state, Suffix);
   try {
-    WriteFiles({{path, ComposeManualDesign(state, sites, clock)}});
+    WriteFieldFiles(state, {{path, ComposeManualDesign(state, sites, clock)}});
   } catch (const Refusal& refusal) {
     throw Refusal("Warning: could not create output UGSD file...\n" + refusal.Message());
   }

@@ -35,6 +35,7 @@ class ProjectFormTest : public testing::Test {
   [[nodiscard]] fs::path Data() const { return folder_ / "data"; }
 
   SurveyState State;
+  FileLock Field;
   ScriptedDialogs Dialogs;
   ProjectForm Form;
 
@@ -144,7 +145,8 @@ TEST_F(ProjectFormTest, OkTakesProjectCodeAndDescriptionOver)
   ChooseProject(Form, "Farm");
   TypeCode("AB12");
   Form.Text2 = "\u00C4cker, north";
-  EXPECT_TRUE(AcceptProjectForm(Form, State, Dialogs));
+  EXPECT_TRUE(AcceptProjectForm(Form, State, Field, Dialogs));
+  EXPECT_TRUE(Field);
   EXPECT_EQ(State.ProjectName + " " + State.FieldId + " " + State.FieldDescription,
             "Farm AB12 \u00C4cker, north");
 }
@@ -157,7 +159,8 @@ TEST_F(ProjectFormTest, NoToOverwritingEmptiesTheCodeAlone)
   Form.Text2 = "North field";
   const SurveyState before = State;
   Dialogs.Answer(false);
-  EXPECT_FALSE(AcceptProjectForm(Form, State, Dialogs));
+  EXPECT_FALSE(AcceptProjectForm(Form, State, Field, Dialogs));
+  EXPECT_FALSE(Field);
   EXPECT_TRUE(State == before);
   EXPECT_EQ(Form.LblPrj + ": " + Form.Text2 + Form.Text3, "Farm: North field");
   EXPECT_TRUE(CodeHidden());
