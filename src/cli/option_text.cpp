@@ -198,6 +198,9 @@ void RequireText(const std::string& option, const std::string& text, int mostCha
   if (!IsUtf8(text)) {
     throw Refusal(option + ": the text is not UTF-8.", RefusalKind::Usage);
   }
+  if (HasControlCharacter(text)) {
+    throw Refusal(option + ": a control character can not stand in it.", RefusalKind::Usage);
+  }
   if (std::cmp_greater(CharacterCount(text), mostCharacters)) {
     throw Refusal(
         option + ": \"" + text + "\" has more than" + NumberToString(mostCharacters) + " characters.",

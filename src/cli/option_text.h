@@ -48,7 +48,8 @@ SelectionOption ReadSelection(const std::string& option, const std::string& text
 /// Site numbers joined by commas; one that stands twice counts once.
 std::vector<double> ReadSiteNumbers(const std::string& option, const std::string& text);
 
-/// Text that files carry: UTF-8 without a line break, of at most `mostCharacters`.
+/// Text that files carry: UTF-8 without line breaks and other control characters, of at most
+/// `mostCharacters`.
 void RequireText(const std::string& option, const std::string& text, int mostCharacters);
 
 /// A path: no line break.

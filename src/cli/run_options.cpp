@@ -1,6 +1,8 @@
 #include "cli/run_options.h"
 
+#include "cli/output_check.h"
 #include "toolkit/number_text.h"
+#include "toolkit/output_target.h"
 #include "toolkit/refusal.h"
 #include "workspace/project.h"
 #include "workspace/survey_state.h"
@@ -147,9 +149,7 @@ ConductivityUnits ReadUnits(const std::string& option, const std::string& text)
 
 std::filesystem::path AbsoluteRoot(const std::string& text)
 {
-  const std::filesystem::path root = std::filesystem::absolute(text.empty() ? "." : text);
-  const std::string normal = root.lexically_normal().string();
-  return normal.size() > 1 && normal.back() == '/' ? normal.substr(0, normal.size() - 1) : normal;
+  return AbsolutePath(text.empty() ? "." : text);
 }
 
 /// A project's name follows the rule for new names, or names a directory that stands under `data`.
@@ -182,6 +182,15 @@ void ReadIdentity(const RawOptions& raw, RunOptions& options)
   options.Overwrite = raw.Overwrite;
 }
 
+/// A label stands between double quotes in the survey's export.
+void RequireLabel(const std::string& option, const std::string& text)
+{
+  RequireText(option, text, LongestLabel);
+  if (text.find('"') != std::string::npos) {
+    RefuseUsage(option + ": a double quote can not stand in a label.");
+  }
+}
+
 void ReadImport(const RawOptions& raw, RunOptions& options)
 {
   RequirePath("SURVEY_FILE", raw.SurveyFile);
@@ -189,8 +198,8 @@ void ReadImport(const RawOptions& raw, RunOptions& options)
   const ConductivityUnits units = ReadUnits("--units", raw.Units);
   const std::string label1 = raw.Label1.value_or(raw.Log ? "log(EMv)" : "EMv");
   const std::string label2 = raw.Label2.value_or(raw.Log ? "log(EMh)" : "EMh");
-  RequireText("--label1", label1, LongestLabel);
-  RequireText("--label2", label2, LongestLabel);
+  RequireLabel("--label1", label1);
+  RequireLabel("--label2", label2);
   options.Import = {raw.SurveyFile,
                     {raw.Type == "transect", raw.SiteId, raw.SecondSignal},
                     {label1, label2},
@@ -284,6 +293,7 @@ RunOptions ApplyRules(const RawOptions& raw)
   options.Export = !raw.NoExport;
   options.Json = raw.Json;
   options.Quiet = raw.Quiet;
+  RefuseSharedOutputs(options);
   return options;
 }
 

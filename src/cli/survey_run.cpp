@@ -15,8 +15,8 @@
 #include "survey/statistics.h"
 #include "survey/survey_export.h"
 #include "toolkit/clock.h"
-#include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
+#include "toolkit/output_target.h"
 #include "toolkit/refusal.h"
 #include "workspace/captions.h"
 #include "workspace/project.h"
@@ -85,14 +85,15 @@ class SurveyRun {
  private:
   void SetProject()
   {
+    const FieldPlace place = PlaceOfField(options_.Root, options_.Project, options_.Field);
+    std::error_code failure;
+    std::filesystem::create_directories(place.Folder, failure);
+    if (failure) {
+      RefuseFile(place.Folder, "made", failure.value());
+    }
+    field_ = TakeField(place, "veln", LockPatience);
     if (!options_.Overwrite && IsFieldInUse(options_.Root, options_.Project, options_.Field)) {
       throw Refusal(FieldInUseQuestion(), RefusalKind::FieldUse);
-    }
-    const auto directory = options_.Root / "data" / options_.Project;
-    std::error_code failure;
-    std::filesystem::create_directories(directory, failure);
-    if (failure) {
-      throw Refusal(directory.string() + "\ncould not be made: " + failure.message());
     }
     AcceptProject(state_, options_.Project, options_.Field, options_.Description);
     progress_.Step("Project", options_.Project + ", field " + options_.Field);
@@ -331,7 +332,7 @@ class SurveyRun {
       return;
     }
     const auto files = ComposePictures(state_, options_.Pictures, options_.PictureStyle);
-    WriteFiles(files);
+    WriteFieldFiles(state_, files);
     for (const ComposedFile& file : files) {
       record_.Files.push_back(file.Path);
     }
@@ -343,6 +344,7 @@ class SurveyRun {
   std::ostream* printed_;
   ProgressText progress_;
   ConsoleDialogs dialogs_;
+  FileLock field_;  ///< for as long as the run works on the field
   SurveyState state_;
   std::optional<SrsForm> srs_;
   RunRecord record_;

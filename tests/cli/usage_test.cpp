@@ -36,9 +36,9 @@ std::vector<Arguments> WrongOptions()
       {"--manual", {"", "1,,2", "-3"}},
       {"--field", {"abc", "abcde", "ab_1", "abc\xc3\xa4"}},
       {"--project", {"", "..", "two words", "a/b", "one\ntwo"}},
-      {"--label1", {Repeated("\xc3\xa4", 11), "EM\xff", "EM\nv"}},
-      {"--label2", {"12345678901"}},
-      {"--description", {Repeated("d", 61), "one\rtwo"}},
+      {"--label1", {Repeated("\xc3\xa4", 11), "EM\xff", "EM\nv", "a\"b", "a\tb"}},
+      {"--label2", {"12345678901", "\""}},
+      {"--description", {Repeated("d", 61), "one\rtwo", "a\x7f", "\xc2\x85"}},
       {"--root", {"one\ntwo"}}};
   std::vector<Arguments> wrong = {
       {"--bogus"},
