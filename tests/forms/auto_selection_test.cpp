@@ -1,6 +1,6 @@
 #include "forms/auto_selection.h"
 
-#include "design_forms.h"
+#include "forms/design_forms.h"
 #include "forms/reduction_form.h"
 
 namespace veln {

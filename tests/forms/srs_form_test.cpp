@@ -1,7 +1,7 @@
 #include "forms/srs_form.h"
 
-#include "design_forms.h"
 #include "forms/auto_selection.h"
+#include "forms/design_forms.h"
 #include "forms/reduction_form.h"
 
 namespace veln {
