@@ -1,6 +1,9 @@
 #pragma once
 
-#include "graphics/survey_graph.h"
+#include "graphics/colour_maps.h"
+#include "graphics/histograms.h"
+#include "graphics/line_plots.h"
+#include "graphics/point_plots.h"
 #include "signal/transition_analysis.h"
 #include "support/surveys.h"
 #include "support/testing.h"
@@ -44,9 +47,7 @@ inline SurveyGraph OpenGraph(SurveyState& state)
 {
   SurveyGraph graph = LoadSurveyGraph(state);
   if (IsTransect(state)) {
-    for (const GraphEntry entry : {GraphEntry::mnuLine, GraphEntry::mnuLs2, GraphEntry::mnuLs1s2}) {
-      graph.Enabled.set(static_cast<std::size_t>(entry));
-    }
+    graph.Enable({GraphEntry::mnuLine, GraphEntry::mnuLs2, GraphEntry::mnuLs1s2});
     InitRows(graph, state);
   }
   return graph;
