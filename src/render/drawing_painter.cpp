@@ -5,12 +5,29 @@
 
 #include <QPaintEngine>
 #include <QPainter>
+#include <QTransform>
 
 #include <algorithm>
 #include <span>
 #include <variant>
 
 namespace veln {
+
+namespace {
+
+/// Turns the painter to the pixels of its device, whatever a pixel of the window measures, so that dots can
+/// be told to stand on whole ones; the frame in these pixels.
+DrawingFrame InDevicePixels(QPainter& painter, const DrawingFrame& frame)
+{
+  const QTransform device = painter.deviceTransform();
+  if (device.type() > QTransform::TxScale) {
+    return frame;
+  }
+  painter.setTransform(device.inverted() * painter.transform());
+  return {device.mapRect(frame.Target), frame.Enlarged * device.m11()};
+}
+
+}  // namespace
 
 QPointF DrawingFrame::Map(const Drawing& drawing, DrawPoint point) const
 {
@@ -30,9 +47,10 @@ void PaintDrawing(QPainter& painter, const Drawing& drawing, const DrawingFrame&
 {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  MarkPainter paint(painter, drawing, frame);
   // Pixels are painted over mark by mark. A page keeps every shape that it is told, so it is told few.
   const bool pixels = painter.paintEngine()->type() == QPaintEngine::Raster;
+  const DrawingFrame place = pixels ? InDevicePixels(painter, frame) : frame;
+  MarkPainter paint(painter, drawing, place);
   const auto paintMarks = [&](std::span<const DrawMark> marks) {
     if (pixels) {
       std::ranges::for_each(marks, [&paint](const DrawMark& mark) { std::visit(paint, mark); });
@@ -45,7 +63,7 @@ void PaintDrawing(QPainter& painter, const Drawing& drawing, const DrawingFrame&
   if (!parts.Clipped.empty()) {
     painter.save();
     painter.setClipRect(
-        QRectF(frame.Map(drawing, drawing.Clip->First), frame.Map(drawing, drawing.Clip->Second))
+        QRectF(place.Map(drawing, drawing.Clip->First), place.Map(drawing, drawing.Clip->Second))
             .normalized(),
         Qt::IntersectClip);
     paintMarks(parts.Clipped);
