@@ -4,7 +4,6 @@
 #include "graphics/plot_axes.h"
 #include "graphics/plot_frame.h"
 #include "graphics/plot_statistics.h"
-#include "toolkit/number_text.h"
 
 #include <algorithm>
 #include <cmath>

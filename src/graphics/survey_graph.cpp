@@ -6,7 +6,6 @@
 #include "graphics/line_plots.h"
 #include "graphics/plot_frame.h"
 #include "graphics/point_plots.h"
-#include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
 
 #include <algorithm>
