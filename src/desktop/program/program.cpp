@@ -77,6 +77,7 @@ void Program::EndProgram()
       window->Unload();
     }
   }
+  Field = FileLock();
   Quit();
 }
 
