@@ -1,6 +1,7 @@
 // The steps of one run on the largest survey: 30,000 sites, two signals, 200 rows.
+#include "design/auto_selection.h"
 #include "design/design_run.h"
-#include "design/design_scoring.h"
+#include "design/srs_form.h"
 #include "signal/decorrelation.h"
 #include "signal/transition_analysis.h"
 #include "signal/validation.h"
@@ -31,7 +32,7 @@ class QuietDialogs : public Dialogs {
  public:
   void Inform(const std::string& /*text*/) override {}
   void Warn(const std::string& /*text*/) override {}
-  bool Ask(Question /*question*/, const std::string& /*text*/) override { return true; }
+  bool Ask(const std::string& /*text*/) override { return true; }
   void Beep() override {}
   std::optional<std::filesystem::path> ShowOpen(const FileQuestion& /*question*/) override
   {
@@ -103,10 +104,11 @@ BENCHMARK(OneDesign)->DenseRange(0, 2)->Unit(benchmark::kMillisecond);
 void FullSelection(benchmark::State& run)
 {
   SurveyState state = DecorrelatedSurvey();
+  QuietDialogs dialogs;
   RunObserver unwatched;
-  const SelectionPlan plan{StrataToAnalyse(state.SurveySize), SelectionScope::Full};
+  SrsForm form = OpenSrs(state, dialogs);
   for ([[maybe_unused]] auto _ : run) {
-    benchmark::DoNotOptimize(ScoreDesigns(state, {}, plan, unwatched));
+    benchmark::DoNotOptimize(SelectDesigns(form, state, false, dialogs, unwatched));
   }
 }
 BENCHMARK(FullSelection)->Unit(benchmark::kMillisecond);

@@ -20,12 +20,10 @@ void ConsoleDialogs::Warn(const std::string& text)
   errors_ << text << "\n" << std::flush;
 }
 
-bool ConsoleDialogs::Ask(Question question, const std::string& /*text*/)
+bool ConsoleDialogs::Ask(const std::string& text)
 {
-  if (question == Question::WriteTransitionFile) {
-    return answers_.WriteTransitionFile;
-  }
-  return question == Question::ScoreDesigns;  // --ads has said how many
+  const bool transitionFile = text.find("TA data values") != std::string::npos;
+  return transitionFile ? answers_.WriteTransitionFile : true;
 }
 
 std::optional<std::filesystem::path> ConsoleDialogs::ShowOpen(const FileQuestion& /*question*/)

@@ -25,22 +25,24 @@ double CentralLimit(int surveySize)
   return std::clamp(Scale / surveySize, Lowest, Highest);
 }
 
-CandidateSite FindSupportSite(const SurveyState& state, const TargetSites& sites, std::size_t n)
+void FindSupportSite(const SurveyState& state, TargetSites& sites, std::size_t point, std::size_t n)
 {
   const double limit = CentralLimit(state.SurveySize);
-  CandidateSite found;
+  CandidateSite& place = sites.at(point)[0];
   double best = 0;
   for (std::size_t i = 0; i < state.SiteStatus.size(); ++i) {
     if (!IsCentral(state, i, limit)) {
       continue;
     }
-    const CandidateSite site{state.CoordX[i], state.CoordY[i], state.SiteId[i], i};
-    if (const double distance = FindDMinVal(site, sites, n, n); distance > best) {
+    const CandidateSite saved = place;
+    place = {state.CoordX[i], state.CoordY[i], state.SiteId[i], i};
+    const double distance = FindDMinVal(sites, point, n);
+    if (distance > best) {
       best = distance;
-      found = site;
+    } else {
+      place = saved;
     }
   }
-  return found;
 }
 
 }  // namespace veln

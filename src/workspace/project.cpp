@@ -1,7 +1,5 @@
 #include "workspace/project.h"
 
-#include "toolkit/file_set.h"
-#include "toolkit/output_target.h"
 #include "toolkit/refusal.h"
 
 #include <algorithm>
@@ -51,16 +49,6 @@ std::vector<std::string> ListProjects(const fs::path& programDir)
   return projects;
 }
 
-FieldPlace PlaceOfField(const fs::path& programDir, const std::string& project, const std::string& fieldId)
-{
-  return {programDir / "data" / project, project, fieldId};
-}
-
-void WriteFieldFiles(const SurveyState& state, const std::vector<ComposedFile>& files)
-{
-  WriteFileSet(files, {OutputFolder(state), state.FieldId});
-}
-
 std::string FieldInUseQuestion()
 {
   return "Warning!  The 4-character Field ID code you have specified is already in use\n"
@@ -72,13 +60,8 @@ std::string FieldInUseQuestion()
 
 bool IsFieldInUse(const fs::path& programDir, const std::string& project, const std::string& fieldId)
 {
-  const fs::path file = programDir / "data" / project / (fieldId + "info.txt");
   std::error_code failure;
-  const bool exists = fs::exists(file, failure);
-  if (failure) {
-    RefuseFile(file, "looked for", failure.value());
-  }
-  return exists;
+  return fs::exists(programDir / "data" / project / (fieldId + "info.txt"), failure);
 }
 
 bool CheckAlphaCode(const fs::path& programDir, const std::string& project, const std::string& fieldId,
@@ -88,7 +71,7 @@ bool CheckAlphaCode(const fs::path& programDir, const std::string& project, cons
     return true;
   }
   dialogs.Beep();
-  if (dialogs.Ask(Question::UseFieldAgain, FieldInUseQuestion())) {
+  if (dialogs.Ask(FieldInUseQuestion())) {
     return true;
   }
   dialogs.Beep();

@@ -1,5 +1,4 @@
-#include "desktop/program/application.h"
-
+#include <QApplication>
 #include <gmock/gmock.h>
 
 // One application for all tests of the program, without a screen unless the caller names one.
@@ -9,7 +8,7 @@ int main(int argc, char** argv)
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
-  const veln::Application application(argc, argv);
+  QApplication application(argc, argv);
   QApplication::setOrganizationName("Norvane Laboratory");
   QApplication::setApplicationName("VELN-QTRD tests");
   QApplication::setQuitOnLastWindowClosed(false);

@@ -1,5 +1,7 @@
 #include "desktop/design/frm_srs.h"
 
+#include "design/design_table.h"
+#include "design/survey_reduction.h"
 #include "desktop/design/frm_d_list.h"
 #include "desktop/design/frm_parse.h"
 #include "desktop/design/frm_srs_observer.h"
@@ -8,8 +10,6 @@
 #include "desktop/parts/choices.h"
 #include "desktop/parts/controls.h"
 #include "desktop/parts/drawing_view.h"
-#include "forms/design_table.h"
-#include "forms/reduction_form.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -60,7 +60,7 @@ QSize frmSRS::sizeHint() const
 
 void frmSRS::WayOut()
 {
-  CloseSrs(form_);
+  CloseSrs(form_, State());
   CloseCompanions();
   Unload();
   Shared().Changed();
@@ -132,13 +132,13 @@ void frmSRS::Discard()
   Shared().Changed();
 }
 
-void frmSRS::Select(SelectionScope scope)
+void frmSRS::Select(bool limited)
 {
   Program& program = Shared();
   frmSRSObserver observer(*this, progress_);
   std::optional<SelectionScores> scores;
   const bool ended =
-      program.Try([&] { scores = SelectDesigns(form_, State(), scope, program.Ask(), observer); });
+      program.Try([&] { scores = SelectDesigns(form_, State(), limited, program.Ask(), observer); });
   observer.End();
   if (CloseIfAsked()) {
     return;

@@ -18,8 +18,7 @@ constexpr int RepaintMilliseconds = 17;  // 60 paints a second
 
 }  // namespace
 
-frmSRSObserver::frmSRSObserver(frmSRS& window, ProgressView& picture)
-    : RunObserver(&picture), window_(window), picture_(picture)
+frmSRSObserver::frmSRSObserver(frmSRS& window, ProgressView& picture) : window_(window), picture_(picture)
 {
   sincePaint_.start();
 }
@@ -64,7 +63,27 @@ void frmSRSObserver::Status(const std::string& text)
 void frmSRSObserver::MapReady()
 {
   Begin();
-  RunObserver::MapReady();
+  picture_.MapReady();
+}
+
+void frmSRSObserver::CandidatesFound(int point, const PointCandidates& candidates)
+{
+  picture_.CandidatesFound(point, candidates);
+}
+
+void frmSRSObserver::Started(std::span<const PointCandidates> points)
+{
+  picture_.Started(points);
+}
+
+void frmSRSObserver::Exchanged(const CandidateSite& leaving, const CandidateSite& entering)
+{
+  picture_.Exchanged(leaving, entering);
+}
+
+void frmSRSObserver::SupportFound(const CandidateSite& site)
+{
+  picture_.SupportFound(site);
 }
 
 bool frmSRSObserver::NextDesign(int k, int n)

@@ -3,7 +3,6 @@
 #include "desktop/parts/controls.h"
 #include "desktop/parts/text_roles.h"
 #include "desktop/program/help_request.h"
-#include "toolkit/drawing.h"
 
 #include <QEvent>
 #include <QFontMetrics>
@@ -15,6 +14,8 @@
 namespace veln {
 
 namespace {
+
+constexpr int TwipsPerPixel = 15;
 
 QString GeometryKey(const QWidget& window)
 {
