@@ -1,7 +1,6 @@
 // The steps of one run on the largest survey: 30,000 sites, two signals, 200 rows.
-#include "design/auto_selection.h"
 #include "design/design_run.h"
-#include "design/srs_form.h"
+#include "design/design_scoring.h"
 #include "signal/decorrelation.h"
 #include "signal/transition_analysis.h"
 #include "signal/validation.h"
@@ -32,7 +31,7 @@ class QuietDialogs : public Dialogs {
  public:
   void Inform(const std::string& /*text*/) override {}
   void Warn(const std::string& /*text*/) override {}
-  bool Ask(const std::string& /*text*/) override { return true; }
+  bool Ask(Question /*question*/, const std::string& /*text*/) override { return true; }
   void Beep() override {}
   std::optional<std::filesystem::path> ShowOpen(const FileQuestion& /*question*/) override
   {
@@ -104,11 +103,10 @@ BENCHMARK(OneDesign)->DenseRange(0, 2)->Unit(benchmark::kMillisecond);
 void FullSelection(benchmark::State& run)
 {
   SurveyState state = DecorrelatedSurvey();
-  QuietDialogs dialogs;
   RunObserver unwatched;
-  SrsForm form = OpenSrs(state, dialogs);
+  const SelectionPlan plan{StrataToAnalyse(state.SurveySize), SelectionScope::Full};
   for ([[maybe_unused]] auto _ : run) {
-    benchmark::DoNotOptimize(SelectDesigns(form, state, false, dialogs, unwatched));
+    benchmark::DoNotOptimize(ScoreDesigns(state, {}, plan, unwatched));
   }
 }
 BENCHMARK(FullSelection)->Unit(benchmark::kMillisecond);

@@ -1,9 +1,9 @@
 // Pictures of the largest survey on screen and on paper: 30,000 sites.
 #include "desktop/graphics/plot_pane.h"
 #include "desktop/graphics/site_index.h"
+#include "graphics/colour_maps.h"
 #include "graphics/plot_page.h"
 #include "graphics/site_text.h"
-#include "graphics/survey_graph.h"
 #include "render/drawing_painter.h"
 #include "render/picture_file.h"
 #include "survey/survey_import.h"

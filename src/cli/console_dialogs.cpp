@@ -20,10 +20,12 @@ void ConsoleDialogs::Warn(const std::string& text)
   errors_ << text << "\n" << std::flush;
 }
 
-bool ConsoleDialogs::Ask(const std::string& text)
+bool ConsoleDialogs::Ask(Question question, const std::string& /*text*/)
 {
-  const bool transitionFile = text.find("TA data values") != std::string::npos;
-  return transitionFile ? answers_.WriteTransitionFile : true;
+  if (question == Question::WriteTransitionFile) {
+    return answers_.WriteTransitionFile;
+  }
+  return question == Question::ScoreDesigns;  // --ads has said how many
 }
 
 std::optional<std::filesystem::path> ConsoleDialogs::ShowOpen(const FileQuestion& /*question*/)

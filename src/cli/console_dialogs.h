@@ -24,9 +24,8 @@ class ConsoleDialogs : public Dialogs {
 
   void Inform(const std::string& text) override;
   void Warn(const std::string& text) override;
-  /// The two questions that a run can meet: the file of transition values, and the number of designs to
-  /// analyse, which was settled when the selection was asked for.
-  bool Ask(const std::string& text) override;
+  /// Yes to what an option asked for; nothing else is done unasked.
+  bool Ask(Question question, const std::string& text) override;
   void Beep() override {}
   std::optional<std::filesystem::path> ShowOpen(const FileQuestion& question) override;
   void Shell(const std::vector<std::string>& command) override;
@@ -48,7 +47,7 @@ class SilentDialogs : public Dialogs {
  public:
   void Inform(const std::string& /*text*/) override {}
   void Warn(const std::string& /*text*/) override {}
-  bool Ask(const std::string& /*text*/) override { return true; }
+  bool Ask(Question /*question*/, const std::string& /*text*/) override { return false; }
   void Beep() override {}
   std::optional<std::filesystem::path> ShowOpen(const FileQuestion& /*question*/) override
   {

@@ -1,9 +1,11 @@
 #include "cli/run_options.h"
 #include "cli/survey_run.h"
+#include "toolkit/program_end.h"
 #include "toolkit/refusal.h"
 
 #include <exception>
 #include <iostream>
+#include <new>
 #include <string>
 #include <unistd.h>
 #include <vector>
@@ -37,6 +39,8 @@ int Run(const std::vector<std::string>& arguments)
 
 int main(int argc, char** argv)
 {
+  veln::OccupyStandardStreams();
+  veln::EndInOrderOnSignals();
   try {
     const int status = Run({argv + 1, argv + argc});
     if (!std::cout.flush()) {
@@ -47,6 +51,9 @@ int main(int argc, char** argv)
     std::cout.flush();
     std::cerr << refusal.Message() << "\n";
     return ExitStatus(refusal.Kind());
+  } catch (const std::bad_alloc&) {
+    std::cerr << "There is not enough memory for this run.\n";
+    return 1;
   } catch (const std::exception& failure) {
     std::cout.flush();
     std::cerr << "veln could not go on: " << failure.what() << "\n";

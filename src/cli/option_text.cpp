@@ -66,10 +66,9 @@ void ReadSize(const std::string& option, const std::string& text, DesignOption& 
 
 int ReadStratum(const std::string& option, const std::string& text)
 {
-  constexpr int MostStrata = 9;
   const auto stratum = ReadWhole(text);
   if (!stratum || *stratum < 1 || *stratum > MostStrata) {
-    RefuseValue(option, text, "a stratum from 1 to 9");
+    RefuseValue(option, text, "a stratum from 1 to " + GeneralForm(MostStrata));
   }
   return *stratum;
 }
@@ -79,7 +78,7 @@ void ReadDesignPart(const std::string& option, const std::string& part, DesignOp
   constexpr std::string_view Factor = "d=";
   constexpr std::string_view StratumKey = "stratum=";
   if (part.starts_with(Factor)) {
-    design.DFactor = ReadHundredths(option, part.substr(Factor.size()), 80, 120);
+    design.DFactor = ReadHundredths(option, part.substr(Factor.size()), LowestDFactor, HighestDFactor);
   } else if (part.starts_with(StratumKey)) {
     design.Stratum = ReadStratum(option, part.substr(StratumKey.size()));
   } else if (part == "ignore-ta") {
@@ -162,11 +161,10 @@ DesignOption ReadDesign(const std::string& option, const std::string& text)
 SelectionOption ReadSelection(const std::string& option, const std::string& text)
 {
   const std::vector<std::string> parts = SplitAtCommas(text);
-  SelectionOption selection;
-  selection.Limited = parts[0] == "limited";
-  selection.IgnoreTA = parts.size() == 2 && parts[1] == "ignore-ta";
-  const bool known = selection.Limited || parts[0] == "full";
-  if (!known || (parts.size() > 1 && !selection.IgnoreTA)) {
+  const bool limited = parts[0] == "limited";
+  const SelectionOption selection{limited ? SelectionScope::Limited : SelectionScope::Full,
+                                  parts.size() == 2 && parts[1] == "ignore-ta"};
+  if ((!limited && parts[0] != "full") || (parts.size() > 1 && !selection.IgnoreTA)) {
     RefuseValue(option, text, "limited or full, with \",ignore-ta\" behind it if wanted");
   }
   return selection;
@@ -199,6 +197,9 @@ void RequireText(const std::string& option, const std::string& text, int mostCha
   RequirePath(option, text);
   if (!IsUtf8(text)) {
     throw Refusal(option + ": the text is not UTF-8.", RefusalKind::Usage);
+  }
+  if (HasControlCharacter(text)) {
+    throw Refusal(option + ": a control character can not stand in it.", RefusalKind::Usage);
   }
   if (std::cmp_greater(CharacterCount(text), mostCharacters)) {
     throw Refusal(

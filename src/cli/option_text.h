@@ -1,6 +1,6 @@
 #pragma once
 
-#include "design/design_levels.h"
+#include "design/design_scoring.h"
 #include "signal/decorrelation.h"
 #include "survey/coordinate_translation.h"
 
@@ -15,14 +15,14 @@ namespace veln {
 struct DesignOption {
   DesignSize Size = DesignSize::Standard;
   bool IncludeSupportSites = true;
-  int DFactor = 100;           ///< hundredths
+  int DFactor = PlainDFactor;  ///< hundredths
   std::optional<int> Stratum;  ///< from 1
   bool IgnoreTA = false;
 };
 
 /// An automatic design selection asked for: `limited|full[,ignore-ta]`.
 struct SelectionOption {
-  bool Limited = false;
+  SelectionScope Scope = SelectionScope::Full;
   bool IgnoreTA = false;
 };
 
@@ -48,7 +48,8 @@ SelectionOption ReadSelection(const std::string& option, const std::string& text
 /// Site numbers joined by commas; one that stands twice counts once.
 std::vector<double> ReadSiteNumbers(const std::string& option, const std::string& text);
 
-/// Text that files carry: UTF-8 without a line break, of at most `mostCharacters`.
+/// Text that files carry: UTF-8 without line breaks and other control characters, of at most
+/// `mostCharacters`.
 void RequireText(const std::string& option, const std::string& text, int mostCharacters);
 
 /// A path: no line break.

@@ -3,10 +3,12 @@
 #include "cli/option_text.h"
 #include "graphics/site_map.h"
 #include "toolkit/number_text.h"
+#include "toolkit/output_target.h"
 #include "toolkit/refusal.h"
 
 #include <algorithm>
 #include <array>
+#include <cctype>
 
 namespace veln {
 
@@ -102,6 +104,19 @@ PictureOption ReadKind(const std::string& name, const PictureOffer& offer)
   return picture;
 }
 
+/// A picture is told from other files by its name, so that none of these is replaced by one.
+void RequirePictureName(const std::string& text, const std::filesystem::path& file)
+{
+  std::string extension = file.extension().string();
+  std::ranges::transform(extension, extension.begin(),
+                         [](unsigned char c) { return static_cast<char>(std::tolower(c)); });
+  if (extension != ".svg" && !IsStream(file)) {
+    throw Refusal(std::string(Option) + ": \"" + text +
+                      "\" does not end in .svg, and is no device or FIFO that exists.",
+                  RefusalKind::Usage);
+  }
+}
+
 }  // namespace
 
 std::vector<PictureOption> ReadPictures(const std::vector<std::string>& texts, const PictureOffer& offer)
@@ -114,11 +129,8 @@ std::vector<PictureOption> ReadPictures(const std::vector<std::string>& texts, c
       throw Refusal(std::string(Option) + ": \"" + text + "\" is not KIND=FILE.svg.", RefusalKind::Usage);
     }
     PictureOption picture = ReadKind(text.substr(0, sign), offer);
-    picture.File = std::filesystem::absolute(text.substr(sign + 1)).lexically_normal();
-    if (std::ranges::find(pictures, picture.File, &PictureOption::File) != pictures.end()) {
-      throw Refusal(std::string(Option) + ": two pictures can not go to one file: " + picture.File.string(),
-                    RefusalKind::Usage);
-    }
+    picture.File = AbsolutePath(text.substr(sign + 1));
+    RequirePictureName(text, picture.File);
     pictures.push_back(std::move(picture));
   }
   return pictures;

@@ -32,7 +32,7 @@ struct PictureOffer {
 };
 
 /// Reads the values of `--plot`. Throws Refusal (usage) for an unknown kind, one that the survey's options
-/// rule out, and for two pictures that would go to one file.
+/// rule out, and a file whose name is not that of an SVG file.
 std::vector<PictureOption> ReadPictures(const std::vector<std::string>& texts, const PictureOffer& offer);
 
 }  // namespace veln

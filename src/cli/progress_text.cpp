@@ -23,20 +23,16 @@ std::string PadLeft(std::string_view text, std::size_t width)
   return std::string(length < width ? width - length : 0, ' ') + std::string(text);
 }
 
-std::string PointLine(const Design& design, int point)
+std::string PointLine(const DesignPoint& point)
 {
   constexpr std::size_t CountWidth = 7;
   constexpr std::size_t CoordinateWidth = 16;
   constexpr const char* CoordinateFormat = "0.0#####";
-  const CandidateSite& site = design.Sites.at(static_cast<std::size_t>(point) - 1)[0];
-  if (!site.Exists()) {
-    return "";
-  }
-  const bool support = point > TargetPoints(design.Settings.Size);
-  return PadLeft(GeneralForm(point), CountWidth) + PadLeft(GeneralForm(site.SiteId), CountWidth + 2) +
-         PadLeft(FormatNumber(site.X, CoordinateFormat), CoordinateWidth) +
-         PadLeft(FormatNumber(site.Y, CoordinateFormat), CoordinateWidth) +
-         (support ? "  support site" : "") + "\n";
+  return PadLeft(GeneralForm(point.Number), CountWidth) +
+         PadLeft(GeneralForm(point.Site.SiteId), CountWidth + 2) +
+         PadLeft(FormatNumber(point.Site.X, CoordinateFormat), CoordinateWidth) +
+         PadLeft(FormatNumber(point.Site.Y, CoordinateFormat), CoordinateWidth) +
+         (point.Support ? "  support site" : "") + "\n";
 }
 
 std::string ScoreCell(const SelectionScores& scores, const SelectionSummary& summary,
@@ -48,8 +44,7 @@ std::string ScoreCell(const SelectionScores& scores, const SelectionSummary& sum
     return PadLeft("", CellWidth + 1);
   }
   std::string mark = IsAcceptable(summary, score) ? "+" : " ";
-  if (summary.Best && summary.Best->Stratum == combination.Stratum &&
-      summary.Best->FactorIndex == combination.FactorIndex) {
+  if (summary.Best == combination) {
     mark = "*";
   }
   return PadLeft(FormatNumber(*score, "0.000"), CellWidth) + mark;
@@ -94,8 +89,8 @@ void ProgressText::DesignTable(const SavedDesign& design)
     return;
   }
   *out_ << "  Point  Site ID               x               y\n";
-  for (int point = 1; point <= design.Made.PointCount(); ++point) {
-    *out_ << PointLine(design.Made, point);
+  for (const DesignPoint& point : PointsOf(design.Made)) {
+    *out_ << PointLine(point);
   }
 }
 

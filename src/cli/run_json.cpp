@@ -6,7 +6,6 @@
 
 #include <nlohmann/json.hpp>
 
-#include <array>
 #include <ranges>
 
 namespace veln {
@@ -59,10 +58,10 @@ Json DecorrelationsOf(const RunOptions& options, const RunRecord& record)
 
 Json ReductionOf(const RunOptions& options, const RunRecord& record)
 {
-  constexpr std::array<int, 4> Shares = {50, 67, 75, 80};
-  const int percent = Shares.at(static_cast<std::size_t>(options.Reduction.value_or(2) - 2));
-  return OrNull(record.ReducedTo,
-                [percent](int available) { return Json{{"percent", percent}, {"available", available}}; });
+  if (!options.Reduction || !record.ReducedTo) {
+    return nullptr;
+  }
+  return {{"percent", options.Reduction->Percent}, {"available", *record.ReducedTo}};
 }
 
 Json CombinationOf(int stratum, int factorIndex, const std::optional<double>& score)
@@ -85,28 +84,22 @@ Json SelectionOf(const SelectionScores& scores)
     best = CombinationOf(summary.Best->Stratum, summary.Best->FactorIndex, summary.BestScore);
     limit = summary.Limit;
   }
-  return {{"strata", scores.pnum}, {"limited", scores.LOA}, {"scores", list},
-          {"best", best},          {"limit", limit},        {"acceptable", summary.Acceptable}};
+  return {{"strata", scores.pnum}, {"limited", scores.Scope == SelectionScope::Limited},
+          {"scores", list},        {"best", best},
+          {"limit", limit},        {"acceptable", summary.Acceptable}};
 }
 
-Json PointsOf(const Design& design)
+Json PointListOf(const Design& design)
 {
   Json points = Json::array();
-  const int targets = TargetPoints(design.Settings.Size);
-  for (int point = 1; point <= design.PointCount(); ++point) {
-    const PointCandidates& candidates = design.Sites.at(static_cast<std::size_t>(point) - 1);
-    const CandidateSite& site = candidates[0];
-    if (!site.Exists()) {
-      continue;
-    }
-    const bool support = point > targets;
-    Json entry = {{"point", point},
-                  {"site_id", site.SiteId},
-                  {"x", Number(site.X)},
-                  {"y", Number(site.Y)},
-                  {"support_site", support}};
-    if (!support) {
-      entry["alternates"] = {candidates[1].SiteId, candidates[2].SiteId};
+  for (const DesignPoint& point : PointsOf(design)) {
+    Json entry = {{"point", point.Number},
+                  {"site_id", point.Site.SiteId},
+                  {"x", Number(point.Site.X)},
+                  {"y", Number(point.Site.Y)},
+                  {"support_site", point.Support}};
+    if (!point.Support) {
+      entry["alternates"] = {point.Alternates[0].SiteId, point.Alternates[1].SiteId};
     }
     points.push_back(std::move(entry));
   }
@@ -127,7 +120,7 @@ Json DesignsOf(const RunRecord& record)
                     {"support", settings.IncludeSupportSites},
                     {"opt_criteria", Number(saved.Made.OptCriteria)},
                     {"loop_count", saved.Made.LoopCount},
-                    {"points", PointsOf(saved.Made)}});
+                    {"points", PointListOf(saved.Made)}});
   }
   return list;
 }

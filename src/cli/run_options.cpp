@@ -1,5 +1,8 @@
 #include "cli/run_options.h"
 
+#include "cli/output_check.h"
+#include "toolkit/number_text.h"
+#include "toolkit/output_target.h"
 #include "toolkit/refusal.h"
 #include "workspace/project.h"
 #include "workspace/survey_state.h"
@@ -124,10 +127,12 @@ void AddOutputOptions(CLI::App& run, RawOptions& raw)
   throw Refusal(message, RefusalKind::Usage);
 }
 
-void RequireOneOf(const std::string& option, const std::string& text, const std::vector<std::string>& choices)
+/// The place of a text among the choices.
+std::size_t RequireOneOf(const std::string& option, const std::string& text,
+                         const std::vector<std::string>& choices)
 {
-  if (std::ranges::find(choices, text) != choices.end()) {
-    return;
+  if (const auto found = std::ranges::find(choices, text); found != choices.end()) {
+    return static_cast<std::size_t>(found - choices.begin());
   }
   std::string list;
   for (const std::string& choice : choices) {
@@ -144,9 +149,7 @@ ConductivityUnits ReadUnits(const std::string& option, const std::string& text)
 
 std::filesystem::path AbsoluteRoot(const std::string& text)
 {
-  const std::filesystem::path root = std::filesystem::absolute(text.empty() ? "." : text);
-  const std::string normal = root.lexically_normal().string();
-  return normal.size() > 1 && normal.back() == '/' ? normal.substr(0, normal.size() - 1) : normal;
+  return AbsolutePath(text.empty() ? "." : text);
 }
 
 /// A project's name follows the rule for new names, or names a directory that stands under `data`.
@@ -179,6 +182,15 @@ void ReadIdentity(const RawOptions& raw, RunOptions& options)
   options.Overwrite = raw.Overwrite;
 }
 
+/// A label stands between double quotes in the survey's export.
+void RequireLabel(const std::string& option, const std::string& text)
+{
+  RequireText(option, text, LongestLabel);
+  if (text.find('"') != std::string::npos) {
+    RefuseUsage(option + ": a double quote can not stand in a label.");
+  }
+}
+
 void ReadImport(const RawOptions& raw, RunOptions& options)
 {
   RequirePath("SURVEY_FILE", raw.SurveyFile);
@@ -186,8 +198,8 @@ void ReadImport(const RawOptions& raw, RunOptions& options)
   const ConductivityUnits units = ReadUnits("--units", raw.Units);
   const std::string label1 = raw.Label1.value_or(raw.Log ? "log(EMv)" : "EMv");
   const std::string label2 = raw.Label2.value_or(raw.Log ? "log(EMh)" : "EMh");
-  RequireText("--label1", label1, LongestLabel);
-  RequireText("--label2", label2, LongestLabel);
+  RequireLabel("--label1", label1);
+  RequireLabel("--label2", label2);
   options.Import = {raw.SurveyFile,
                     {raw.Type == "transect", raw.SiteId, raw.SecondSignal},
                     {label1, label2},
@@ -246,9 +258,11 @@ void ReadDesigns(const RawOptions& raw, RunOptions& options)
     options.ManualSites = ReadSiteNumbers("--manual", *raw.Manual);
   }
   if (raw.Reduction) {
-    const std::vector<std::string> shares = {"50", "67", "75", "80"};
-    RequireOneOf("--reduce", *raw.Reduction, shares);
-    options.Reduction = 2 + static_cast<int>(std::ranges::find(shares, *raw.Reduction) - shares.begin());
+    std::vector<std::string> shares;
+    for (const ReductionStep& step : ReductionSteps) {
+      shares.push_back(GeneralForm(step.Percent));
+    }
+    options.Reduction = ReductionSteps.at(RequireOneOf("--reduce", *raw.Reduction, shares));
   }
   if (options.Designs.empty() && !raw.Selection && !raw.Manual) {
     options.Designs.emplace_back();
@@ -279,6 +293,7 @@ RunOptions ApplyRules(const RawOptions& raw)
   options.Export = !raw.NoExport;
   options.Json = raw.Json;
   options.Quiet = raw.Quiet;
+  RefuseSharedOutputs(options);
   return options;
 }
 

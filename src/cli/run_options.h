@@ -2,6 +2,7 @@
 
 #include "cli/option_text.h"
 #include "cli/picture_option.h"
+#include "design/survey_reduction.h"
 #include "signal/decorrelation.h"
 #include "signal/edge_buffer.h"
 #include "survey/survey_import.h"
@@ -27,7 +28,7 @@ struct RunOptions {
   BufferExtent EdgeBuffering = BufferExtent::None;
   bool TransitionAnalysis = false;
   bool TransitionFile = false;
-  std::optional<int> Reduction;  ///< keep one free site in so many
+  std::optional<ReductionStep> Reduction;
   std::optional<SelectionOption> Selection;
   std::vector<DesignOption> Designs;
   std::vector<double> ManualSites;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "design/auto_selection.h"
 #include "design/design_run.h"
+#include "design/design_scoring.h"
 #include "signal/decorrelation.h"
 
 #include <filesystem>

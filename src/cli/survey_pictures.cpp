@@ -3,6 +3,7 @@
 #include "cli/console_dialogs.h"
 #include "forms/igc_form.h"
 #include "graphics/drawing_svg.h"
+#include "graphics/line_plots.h"
 #include "graphics/plot_page.h"
 #include "graphics/site_map.h"
 #include "toolkit/refusal.h"
@@ -24,7 +25,7 @@ SurveyGraph OpenGraph(SurveyState& state, const PictureSettings& settings)
   SurveyGraph graph = LoadSurveyGraph(state);
   IgcForm form = LoadIgcForm(graph, state);
   TickLinePlots(form, true);
-  ChooseDirection(form, settings.NorthSouth);
+  ChooseDirection(form, settings.NorthSouth ? FieldAxis::Y : FieldAxis::X);
   ChoosePalette(form, settings.Choices.PaletteChoice);
   ChoosePlaces(form, settings.Choices.DecimalPlaces);
   MoveSymbolSize(form, settings.Choices.SymbolSize);

@@ -5,10 +5,9 @@
 #include "cli/run_json.h"
 #include "cli/run_record.h"
 #include "cli/survey_pictures.h"
-#include "design/auto_selection.h"
 #include "design/manual_design.h"
-#include "design/srs_form.h"
-#include "design/survey_reduction.h"
+#include "forms/auto_selection.h"
+#include "forms/reduction_form.h"
 #include "signal/validation.h"
 #include "survey/coordinate_translation.h"
 #include "survey/row_table.h"
@@ -16,8 +15,8 @@
 #include "survey/statistics.h"
 #include "survey/survey_export.h"
 #include "toolkit/clock.h"
-#include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
+#include "toolkit/output_target.h"
 #include "toolkit/refusal.h"
 #include "workspace/captions.h"
 #include "workspace/project.h"
@@ -86,14 +85,15 @@ class SurveyRun {
  private:
   void SetProject()
   {
+    const FieldPlace place = PlaceOfField(options_.Root, options_.Project, options_.Field);
+    std::error_code failure;
+    std::filesystem::create_directories(place.Folder, failure);
+    if (failure) {
+      RefuseFile(place.Folder, "made", failure.value());
+    }
+    field_ = TakeField(place, "veln", LockPatience);
     if (!options_.Overwrite && IsFieldInUse(options_.Root, options_.Project, options_.Field)) {
       throw Refusal(FieldInUseQuestion(), RefusalKind::FieldUse);
-    }
-    const auto directory = options_.Root / "data" / options_.Project;
-    std::error_code failure;
-    std::filesystem::create_directories(directory, failure);
-    if (failure) {
-      throw Refusal(directory.string() + "\ncould not be made: " + failure.message());
     }
     AcceptProject(state_, options_.Project, options_.Field, options_.Description);
     progress_.Step("Project", options_.Project + ", field " + options_.Field);
@@ -179,36 +179,34 @@ class SurveyRun {
     if (options_.ManualSites.empty()) {
       return;
     }
-    RefuseUnknownSites();
-    MaskForm form = OpenMaskForm(state_);
-    for (const double number : options_.ManualSites) {
-      form.Text1 = GeneralForm(number);
-      SelectSite(form, state_);
+    for (const std::size_t site : KnownSites()) {
+      SelectSite(state_, site);
     }
-    form.Check1 = true;
     std::vector<int> siteIds;
     for (const std::size_t i : SelectedSites(state_)) {
       siteIds.push_back(state_.SiteId[i]);
     }
-    if (const auto file = FinishManualSelection(form, state_, dialogs_, SystemDateTime)) {
-      record_.Files.push_back(*file);
-    }
+    record_.Files.push_back(SaveUDSamInfo(state_, dialogs_, SystemDateTime));
     progress_.Step("Manual design", Counted(siteIds.size(), "site"));
     record_.ManualSites = std::move(siteIds);
   }
 
-  /// Unknown numbers are refused before any site is selected, each with its warning.
-  void RefuseUnknownSites() const
+  /// The sites asked for by hand. Unknown numbers are refused before any is selected, each with its warning.
+  [[nodiscard]] std::vector<std::size_t> KnownSites() const
   {
+    std::vector<std::size_t> sites;
     std::string warnings;
     for (const double number : options_.ManualSites) {
-      if (!FindSite(state_, number)) {
+      if (const auto site = FindSite(state_, number)) {
+        sites.push_back(*site);
+      } else {
         warnings += (warnings.empty() ? "" : "\n") + UnknownSiteWarning(number);
       }
     }
     if (!warnings.empty()) {
       throw Refusal(warnings);
     }
+    return sites;
   }
 
   /// Opens the design window's state once; refuses when the rules on available sites have closed it.
@@ -229,7 +227,7 @@ class SurveyRun {
     if (!options_.Reduction) {
       return;
     }
-    ReduceGridSize(DesignWindow(), state_, *options_.Reduction, dialogs_);
+    ReduceGridSize(DesignWindow(), state_, options_.Reduction->Factor, dialogs_);
     record_.ReducedTo = DetermineAvSites(state_);
     progress_.Step("Reduction", Counted(*record_.ReducedTo, "site") + " available");
   }
@@ -243,7 +241,7 @@ class SurveyRun {
     ChooseSize(form, state_, options_.Designs.empty() ? DesignSize::Standard : options_.Designs.front().Size);
     IgnoreScores(form, options_.Selection->IgnoreTA);
     SelectionProgress observer(progress_);
-    const auto scores = SelectDesigns(form, state_, options_.Selection->Limited, dialogs_, observer);
+    const auto scores = SelectDesigns(form, state_, options_.Selection->Scope, dialogs_, observer);
     if (!scores) {
       return;  // nobody stops a run of the command line
     }
@@ -253,10 +251,10 @@ class SurveyRun {
                    Counted(CombinationsOf(*scores).size(), "design") + " scored by Opt-Criteria");
     progress_.ScoreTable(*scores);
     if (summary.Best) {
-      progress_.Step("", summary.lblBest);
-      progress_.Step("", summary.lblAccpt);
+      progress_.Step("", BestDesignText(summary));
+      progress_.Step("", AcceptableText(summary));
     } else {
-      dialogs_.Inform("Note: " + summary.lblBest);
+      dialogs_.Inform("Note: " + BestDesignText(summary));
     }
   }
 
@@ -334,7 +332,7 @@ class SurveyRun {
       return;
     }
     const auto files = ComposePictures(state_, options_.Pictures, options_.PictureStyle);
-    WriteFiles(files);
+    WriteFieldFiles(state_, files);
     for (const ComposedFile& file : files) {
       record_.Files.push_back(file.Path);
     }
@@ -346,6 +344,7 @@ class SurveyRun {
   std::ostream* printed_;
   ProgressText progress_;
   ConsoleDialogs dialogs_;
+  FileLock field_;  ///< for as long as the run works on the field
   SurveyState state_;
   std::optional<SrsForm> srs_;
   RunRecord record_;

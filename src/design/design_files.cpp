@@ -1,8 +1,8 @@
 #include "design/design_files.h"
 
-#include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 #include "toolkit/text_report.h"
+#include "workspace/project.h"
 
 #include <cstddef>
 #include <cstdint>
@@ -33,7 +33,8 @@ void PutHead(TextReport& report, const DesignReport& design, const std::string& 
       .Line("Date & Time:  " + clock())
       .Line("Field Desc:   " + design.State.FieldDescription)
       .BlankLines()
-      .Line("Sample Size:  " + FormatNumber(design.Save.SampleSize, "0") + "   " + design.Save.SurveySizeNote)
+      .Line("Sample Size:  " + FormatNumber(design.Save.Made.PointCount(), "0") + "   " +
+            design.Save.SurveySizeNote)
       .Line("D-Factor Val: " + FormatNumber(settings.DFactor, "0.00"))
       .Line("Opt-Criteria: " + FormatNumber(design.Save.Made.OptCriteria, "0.00"))
       .Line("Loop Count:   " + FormatNumber(design.Save.Made.LoopCount, "0"))
@@ -52,31 +53,32 @@ void PutHead(TextReport& report, const DesignReport& design, const std::string& 
   report.BlankLines();
 }
 
-void PutLevels(TextReport& report, const DesignReport& design, int point)
+void PutTarget(TextReport& report, const DesignPoint& point)
 {
-  if (CheckProperP(point, design.Save.SampleSize)) {
-    report.At(15).Text("support site");
+  report.At(15);
+  if (point.Support) {
+    report.Text("support site");
     return;
   }
-  const LevelRow& levels = design.Save.Made.Levels.at(static_cast<std::size_t>(point) - 1);
-  if (design.State.SignalCount == 1) {
-    report.At(15).Number(levels[0], LevelFormat);
-  } else {
-    report.At(15).Number(levels[1], LevelFormat).At(23).Number(levels[2], LevelFormat);
+  report.Number(point.Target[0], LevelFormat);
+  if (point.Target.size() > 1) {
+    report.At(23).Number(point.Target[1], LevelFormat);
   }
 }
 
-void PutTargetRow(TextReport& report, const DesignReport& design, int point, std::size_t i)
+void PutTargetRow(TextReport& report, const SurveyState& state, const DesignPoint& point, std::size_t i)
 {
-  const SurveyState& state = design.State;
-  const CandidateSite& site = design.Save.Made.Sites.at(static_cast<std::size_t>(point) - 1)[0];
   report.At(3).Number(state.SiteId[i]);
-  PutLevels(report, design, point);
+  PutTarget(report, point);
   report.At(31).Number(state.Decorr1[i], LevelFormat);
   if (state.SignalCount == 2) {
     report.At(40).Number(state.Decorr2[i], LevelFormat);
   }
-  report.At(50).Number(site.X, CoordinateFormat).At(65).Number(site.Y, CoordinateFormat).EndLine();
+  report.At(50)
+      .Number(point.Site.X, CoordinateFormat)
+      .At(65)
+      .Number(point.Site.Y, CoordinateFormat)
+      .EndLine();
 }
 
 /// One row for every site that carries the code of a point's site, which marks it as a member of the design.
@@ -86,14 +88,10 @@ void PutTargetTable(TextReport& report, DesignReport& design)
                   ? "  Site ID     Design Level    Ds1-STD            X-Coordinate   Y-Coordinate "
                   : "  Site ID     Design Levels   Ds1-STD  Ds2-STD   X-Coordinate   Y-Coordinate ");
   report.BlankLines();
-  for (int point = 1; point <= design.Save.SampleSize; ++point) {
-    const CandidateSite& site = design.Save.Made.Sites.at(static_cast<std::size_t>(point) - 1)[0];
-    if (!site.Exists()) {
-      continue;
-    }
+  for (const DesignPoint& point : PointsOf(design.Save.Made)) {
     for (std::size_t i = 0; i < design.State.SiteId.size(); ++i) {
-      if (design.State.SiteId[i] == site.SiteId) {
-        PutTargetRow(report, design, point, i);
+      if (design.State.SiteId[i] == point.Site.SiteId) {
+        PutTargetRow(report, design.State, point, i);
         design.SiteStatus[i] = static_cast<std::int16_t>(design.Number);
       }
     }
@@ -140,17 +138,11 @@ void PutSiteLists(SiteLists& lists, const DesignReport& design)
 /// `UpdateSSDInfo`: the design's row in the panel of designs.
 void UpdateSSDInfo(SurveyState& state, const DesignToSave& save)
 {
-  state.Designs.at(static_cast<std::size_t>(state.DesignCount) - 1) = {save.SampleSize,
+  state.Designs.at(static_cast<std::size_t>(state.DesignCount) - 1) = {save.Made.PointCount(),
                                                                        save.Made.OptCriteria};
 }
 
 }  // namespace
-
-bool CheckProperP(int point, int sampleSize)
-{
-  return (sampleSize == 20 && point >= 19) || (sampleSize == 12 && point >= 11) ||
-         (sampleSize == 6 && point == 6);
-}
 
 std::vector<std::filesystem::path> SaveSamInfo(SurveyState& state, const DesignToSave& save, Dialogs& dialogs,
                                                const Clock& clock)
@@ -166,7 +158,8 @@ std::vector<std::filesystem::path> SaveSamInfo(SurveyState& state, const DesignT
   PutTargetTable(report, design);
   SiteLists lists{report, {}, {}};
   PutSiteLists(lists, design);
-  WriteFiles(
+  WriteFieldFiles(
+      state,
       {{paths[0], report.Content()}, {paths[1], lists.Gps.Content()}, {paths[2], lists.Xrs.Content()}});
 
   state.DesignCount = design.Number;

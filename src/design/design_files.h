@@ -14,12 +14,8 @@ namespace veln {
 /// A finished design on its way into its files.
 struct DesignToSave {
   const Design& Made;
-  int SampleSize = 0;
   std::string SurveySizeNote;  ///< total and active survey size, as the report prints them
 };
-
-/// Whether a design point (from 1) is a support site of a design of this sample size.
-bool CheckProperP(int point, int sampleSize);
 
 /// Saves a design under the next design number: writes its report (`rsd`) and its two site lists (`gps`,
 /// `xrs`), marks the chosen sites, fills its row in the panel of designs and tells so. Returns the paths

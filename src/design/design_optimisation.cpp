@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
+#include <utility>
 
 namespace veln {
 
@@ -23,39 +24,44 @@ double Criteria(double targetSeparation, double logSeparation, std::string_view 
   return RoundByFormat(criteria, rounding);
 }
 
-/// One trial exchange: rank `Rank` of point `Point` takes the place of the point's site.
+/// `SwapSites`: the site of a point and its alternate at `rank` change places.
+void SwapSites(TargetSites& sites, std::size_t point, std::size_t rank)
+{
+  std::swap(sites.at(point)[0], sites.at(point).at(rank));
+}
+
+/// One exchange: rank `Rank` of point `Point` takes the place of the point's site.
 struct Exchange {
   std::size_t Point = 0;
-  std::size_t Rank = 0;  // 0: none beats the design
+  std::size_t Rank = 0;   // 0: the design stays as it is
+  double Separation = 0;  // log separation of the design with it
 };
 
-/// Tries every single exchange; keeps the best of those that beat `best`.
-Exchange BestExchange(TargetSites& sites, std::size_t n, double& best)
+/// Tries every single exchange for itself and takes it back, so that one sweep compares them all on the same
+/// design; the first of the best ones that beat the design.
+Exchange BestExchange(TargetSites& sites, std::size_t n, double separation)
 {
-  Exchange found;
+  Exchange best{0, 0, separation};
   for (std::size_t point = 0; point < n; ++point) {
     for (const std::size_t rank : {std::size_t{1}, std::size_t{2}}) {
-      SwapSites(sites, point, 0, rank);
-      const double separation = DesignOpt(sites, n);
-      if (separation > best) {
-        best = separation;
-        found = {point, rank};
+      SwapSites(sites, point, rank);
+      if (const double trial = DesignOpt(sites, n); trial > best.Separation) {
+        best = {point, rank, trial};
       }
-      SwapSites(sites, point, 0, rank);
+      SwapSites(sites, point, rank);
     }
   }
-  return found;
+  return best;
 }
 
 }  // namespace
 
-double FindDMinVal(const TargetSites& sites, std::size_t point, std::size_t n)
+double FindDMinVal(const CandidateSite& site, const TargetSites& sites, std::size_t n, std::size_t except)
 {
   double best = FarthestDistance;
-  const CandidateSite& site = sites.at(point)[0];
   for (std::size_t j = 0; j < n; ++j) {
     const CandidateSite& other = sites.at(j)[0];
-    if (j == point || !other.Exists()) {
+    if (j == except || !other.Exists()) {
       continue;
     }
     const double dx = site.X - other.X;
@@ -70,7 +76,7 @@ double DesignOpt(const TargetSites& sites, std::size_t n)
   constexpr double Shared = 0.000001;  // keeps the logarithm defined when two sites share a position
   double sum = 0;
   for (std::size_t i = 0; i < n; ++i) {
-    sum = sum + std::log(FindDMinVal(sites, i, n) + Shared);
+    sum = sum + std::log(FindDMinVal(sites.at(i)[0], sites, n, i) + Shared);
   }
   return sum / static_cast<double>(n);
 }
@@ -93,15 +99,16 @@ double TargetSepDist(const SurveyState& state, int n)
 Optimisation ExchangeSites(TargetSites& sites, std::size_t n, double targetSeparation,
                            std::string_view rounding, RunObserver& observer)
 {
-  double best = DesignOpt(sites, n);
+  double separation = DesignOpt(sites, n);
   Optimisation result;
-  result.OptCriteria = Criteria(targetSeparation, best, rounding);
+  result.OptCriteria = Criteria(targetSeparation, separation, rounding);
   observer.Status("Initializing Optimization Algorithm:  Opt-Criteria = " +
                   NumberToString(result.OptCriteria));
   for (;;) {
     ++result.LoopCount;
-    const Exchange exchange = BestExchange(sites, n, best);
-    result.OptCriteria = Criteria(targetSeparation, best, rounding);
+    const Exchange exchange = BestExchange(sites, n, separation);
+    separation = exchange.Separation;
+    result.OptCriteria = Criteria(targetSeparation, separation, rounding);
     const std::string progress =
         NumberToString(result.LoopCount) + ":  Opt-Criteria = " + NumberToString(result.OptCriteria);
     if (exchange.Rank == 0) {
@@ -111,7 +118,7 @@ Optimisation ExchangeSites(TargetSites& sites, std::size_t n, double targetSepar
     observer.Status("Iteration # " + progress);
     const PointCandidates& candidates = sites.at(exchange.Point);
     observer.Exchanged(candidates[0], candidates.at(exchange.Rank));
-    SwapSites(sites, exchange.Point, 0, exchange.Rank);
+    SwapSites(sites, exchange.Point, exchange.Rank);
   }
 }
 

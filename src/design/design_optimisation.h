@@ -8,9 +8,9 @@
 
 namespace veln {
 
-/// The distance in the field from a design point to the nearest of the first `n` points other than itself
-/// (0-based index; the point may lie beyond them). Points without a site are passed over.
-double FindDMinVal(const TargetSites& sites, std::size_t point, std::size_t n);
+/// The distance in the field from a site to the nearest of the first `n` points, that at index `except` left
+/// out. Points without a site are passed over.
+double FindDMinVal(const CandidateSite& site, const TargetSites& sites, std::size_t n, std::size_t except);
 
 /// The log separation of the first `n` points: the mean natural logarithm of their nearest-neighbour
 /// distances, each with 0.000001 added.

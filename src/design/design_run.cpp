@@ -3,11 +3,9 @@
 #include "design/design_optimisation.h"
 #include "design/support_sites.h"
 #include "toolkit/number_text.h"
-#include "toolkit/refusal.h"
 
+#include <algorithm>
 #include <cstddef>
-#include <span>
-#include <vector>
 
 namespace veln {
 
@@ -30,12 +28,10 @@ std::vector<int> SearchOrder(DesignSize size)
 
 void LocateAllTargets(SurveyState& state, Design& design, RunObserver& observer)
 {
-  const bool two = state.SignalCount == 2;
+  const bool scores = TransitionCounts(state, design.Settings.IgnoreTA);
   for (const int point : SearchOrder(design.Settings.Size)) {
     const auto index = static_cast<std::size_t>(point) - 1;
-    const LevelRow& levels = design.Levels.at(index);
-    const SearchTarget target{point, two ? levels[1] : levels[0], two ? levels[2] : levels[0],
-                              TransitionCounts(state, design.Settings.IgnoreTA)};
+    const SearchTarget target{point, TargetLevels(design.Levels.at(index), design.SignalCount), scores};
     design.Sites.at(index) = LocateTargetSites(state, target, design.Settings.Parsing, observer);
   }
 }
@@ -45,8 +41,8 @@ void PlaceSupportSite(const SurveyState& state, Design& design, std::size_t poin
   if (!design.Settings.IncludeSupportSites) {
     return;
   }
-  FindSupportSite(state, design.Sites, point, point);
-  const CandidateSite& site = design.Sites.at(point)[0];
+  const CandidateSite site = FindSupportSite(state, design.Sites, point);
+  design.Sites.at(point)[0] = site;
   if (site.Exists()) {
     observer.SupportFound(site);
   } else {
@@ -77,6 +73,25 @@ void MakePoints(SurveyState& state, Design& design, RunObserver& observer)
 
 }  // namespace
 
+std::vector<DesignPoint> PointsOf(const Design& design)
+{
+  std::vector<DesignPoint> points;
+  for (int number = 1; number <= design.PointCount(); ++number) {
+    const auto index = static_cast<std::size_t>(number) - 1;
+    const PointCandidates& candidates = design.Sites.at(index);
+    if (!candidates[0].Exists()) {
+      continue;
+    }
+    if (number > TargetPoints(design.Settings.Size)) {
+      points.push_back({number, candidates[0], true, {}, {}});
+    } else {
+      points.push_back({number, candidates[0], false, std::span(candidates).subspan(1),
+                        TargetLevels(design.Levels.at(index), design.SignalCount)});
+    }
+  }
+  return points;
+}
+
 bool TransitionCounts(const SurveyState& state, bool ignoreTA)
 {
   return state.TransitionDone && !ignoreTA;
@@ -85,16 +100,28 @@ bool TransitionCounts(const SurveyState& state, bool ignoreTA)
 Design MakeDesign(SurveyState& state, const DesignSettings& settings, RunObserver& observer)
 {
   ClearOldTS(state);
+  const CandidateHold hold(&state);
   Design design;
   design.Settings = settings;
+  design.SignalCount = state.SignalCount;
   design.Levels = InitDLevels(settings.Size, settings.DFactor);
-  try {
-    MakePoints(state, design, observer);
-  } catch (const Refusal&) {
-    ClearOldTS(state);
-    throw;
-  }
+  MakePoints(state, design, observer);
   return design;
+}
+
+CandidateHold HoldCandidates(SurveyState& state, const Design& design)
+{
+  CandidateHold hold(&state);
+  const auto mark = [&state](const CandidateSite& site) {
+    state.SiteStatus.at(site.Index) = site_status::Candidate;
+  };
+  for (const DesignPoint& point : PointsOf(design)) {
+    if (!point.Support) {
+      mark(point.Site);
+      std::ranges::for_each(point.Alternates, mark);
+    }
+  }
+  return hold;
 }
 
 }  // namespace veln

@@ -1,11 +1,13 @@
 #include "design/manual_design.h"
 
-#include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
 #include "toolkit/text_report.h"
+#include "workspace/project.h"
 
 #include <algorithm>
+#include <cstdint>
+#include <utility>
 
 namespace veln {
 
@@ -58,24 +60,6 @@ std::string ComposeManualDesign(const SurveyState& state, const std::vector<std:
   return report.Content();
 }
 
-/// The frame of Select and Unselect: finds the site of the number in `Text1` and puts its answer in place of
-/// the list.
-template <class Action>
-void ActOnSite(MaskForm& form, SurveyState& state, Action action)
-{
-  const double number = form.Text1.empty() ? 0 : ParseNumber(form.Text1).value_or(0);
-  form.Text2Visible = false;
-  form.Label2Visible = true;
-  form.Label2Colour = MaskForm::Colour::LightBlue;
-  if (const auto site = FindSite(state, number)) {
-    form.Label2 = action(state.SiteStatus[*site], NumberToString(number));
-  } else {
-    form.Label2Colour = MaskForm::Colour::LightRed;
-    form.Label2 = UnknownSiteWarning(number);
-  }
-  form.Text1.clear();
-}
-
 }  // namespace
 
 std::optional<std::size_t> FindSite(const SurveyState& state, double siteNumber)
@@ -104,12 +88,22 @@ std::vector<std::size_t> SelectedSites(const SurveyState& state)
   return sites;
 }
 
+bool SelectSite(SurveyState& state, std::size_t site)
+{
+  return std::exchange(state.SiteStatus.at(site), site_status::Selected) != site_status::Selected;
+}
+
+bool UnselectSite(SurveyState& state, std::size_t site)
+{
+  return std::exchange(state.SiteStatus.at(site), site_status::Free) != site_status::Free;
+}
+
 std::filesystem::path SaveUDSamInfo(SurveyState& state, Dialogs& dialogs, const Clock& clock)
 {
   const std::vector<std::size_t> sites = SelectedSites(state);
   const std::filesystem::path path = OutputPath(state, Suffix);
   try {
-    WriteFiles({{path, ComposeManualDesign(state, sites, clock)}});
+    WriteFieldFiles(state, {{path, ComposeManualDesign(state, sites, clock)}});
   } catch (const Refusal& refusal) {
     throw Refusal("Warning: could not create output UGSD file...\n" + refusal.Message());
   }
@@ -118,69 +112,6 @@ std::filesystem::path SaveUDSamInfo(SurveyState& state, Dialogs& dialogs, const 
   state.ManualDesignDone = true;
   state.Menu.Apply(WorkflowEvent::ManualDesignSaved);
   return path;
-}
-
-MaskForm OpenMaskForm(const SurveyState& state)
-{
-  state.Menu.Require(MenuEntry::mnuMask, "Manual site selection");
-  return {};
-}
-
-bool KeyInSiteNumber(char32_t character, Dialogs& dialogs)
-{
-  const bool passes = character == 0 || (character >= U'0' && character <= U'9');
-  if (!passes) {
-    dialogs.Beep();
-  }
-  return passes;
-}
-
-void SelectSite(MaskForm& form, SurveyState& state)
-{
-  ActOnSite(form, state, [](std::int16_t& status, const std::string& number) -> std::string {
-    if (status == site_status::Selected) {
-      return " Attention: This site is already selected!";
-    }
-    status = site_status::Selected;
-    return " Action: Site " + number + " successfully selected.";
-  });
-}
-
-void UnselectSite(MaskForm& form, SurveyState& state)
-{
-  ActOnSite(form, state, [](std::int16_t& status, const std::string& number) -> std::string {
-    if (status == site_status::Free) {
-      return " Attention: This site is not currently selected!";
-    }
-    status = site_status::Free;
-    return " Action: Site " + number + " successfully unselected.";
-  });
-}
-
-void ListSelectedSites(MaskForm& form, const SurveyState& state)
-{
-  form.Text2 = " Selected Sites: ";
-  const std::vector<std::size_t> sites = SelectedSites(state);
-  for (const std::size_t i : sites) {
-    form.Text2 += " " + NumberToString(state.SiteId[i]);
-  }
-  if (sites.empty()) {
-    form.Text2 += " none";
-  }
-  form.Text2Visible = true;
-}
-
-std::optional<std::filesystem::path> FinishManualSelection(MaskForm& form, SurveyState& state,
-                                                           Dialogs& dialogs, const Clock& clock)
-{
-  std::optional<std::filesystem::path> written;
-  if (form.Check1 && !SelectedSites(state).empty()) {
-    written = SaveUDSamInfo(state, dialogs, clock);
-  } else if (form.Check1) {
-    dialogs.Inform("Sample count = 0, hence no output file was created...");
-  }
-  form.Closed = true;
-  return written;
 }
 
 }  // namespace veln

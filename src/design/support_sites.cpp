@@ -25,24 +25,22 @@ double CentralLimit(int surveySize)
   return std::clamp(Scale / surveySize, Lowest, Highest);
 }
 
-void FindSupportSite(const SurveyState& state, TargetSites& sites, std::size_t point, std::size_t n)
+CandidateSite FindSupportSite(const SurveyState& state, const TargetSites& sites, std::size_t n)
 {
   const double limit = CentralLimit(state.SurveySize);
-  CandidateSite& place = sites.at(point)[0];
+  CandidateSite found;
   double best = 0;
   for (std::size_t i = 0; i < state.SiteStatus.size(); ++i) {
     if (!IsCentral(state, i, limit)) {
       continue;
     }
-    const CandidateSite saved = place;
-    place = {state.CoordX[i], state.CoordY[i], state.SiteId[i], i};
-    const double distance = FindDMinVal(sites, point, n);
-    if (distance > best) {
+    const CandidateSite site{state.CoordX[i], state.CoordY[i], state.SiteId[i], i};
+    if (const double distance = FindDMinVal(site, sites, n, n); distance > best) {
       best = distance;
-    } else {
-      place = saved;
+      found = site;
     }
   }
+  return found;
 }
 
 }  // namespace veln

@@ -9,9 +9,8 @@ namespace veln {
 /// survey's size, held between 0.25 and 1.
 double CentralLimit(int surveySize);
 
-/// Places a support site at `point` (0-based): of the free sites whose signals lie near the centre, the one
-/// whose nearest site among the first `n` points is farthest away, of equal ones the first. The point stays
-/// empty if there is none.
-void FindSupportSite(const SurveyState& state, TargetSites& sites, std::size_t point, std::size_t n);
+/// The support site of a design of `n` points: of the free sites whose signals lie near the centre, the one
+/// whose nearest site of the design is farthest away, of equal ones the first. No site if none lies there.
+CandidateSite FindSupportSite(const SurveyState& state, const TargetSites& sites, std::size_t n);
 
 }  // namespace veln

@@ -6,7 +6,6 @@
 #include <algorithm>
 #include <cmath>
 #include <string>
-#include <utility>
 
 namespace veln {
 
@@ -17,13 +16,14 @@ constexpr double FarthestDistance = 1E+24;
 /// Distance of a site from the target in signal space, in standard deviations.
 double TargetDistance(const SurveyState& state, std::size_t i, const SearchTarget& target)
 {
-  const double d1 = state.Decorr1[i] - target.Z1;
-  if (state.SignalCount == 1 && !target.UseScores) {
-    return std::abs(d1);
+  const double d1 = state.Decorr1[i] - target.Levels[0];
+  const bool two = target.Levels.size() > 1;
+  if (!two && !target.UseScores) {
+    return std::abs(d1);  // the root of a square may round
   }
   double squares = d1 * d1;
-  if (state.SignalCount == 2) {
-    const double d2 = state.Decorr2[i] - target.Z2;
+  if (two) {
+    const double d2 = state.Decorr2[i] - target.Levels[1];
     squares = squares + d2 * d2;
   }
   if (target.UseScores) {
@@ -47,11 +47,12 @@ Pick NearestSite(const SurveyState& state, const SearchTarget& target, const Str
       continue;
     }
     ++count;
+    // The count is that of this pass: a site picked before is not free, and the strata behind it move on.
     if (count % stratum.ParseDenominator != stratum.ParseModulus) {
       continue;
     }
     const double distance = TargetDistance(state, i, target);
-    if (distance < best.Distance) {
+    if (distance < best.Distance) {  // of equal ones the earlier stays
       best = {i, distance};
     }
   }
@@ -59,11 +60,6 @@ Pick NearestSite(const SurveyState& state, const SearchTarget& target, const Str
 }
 
 }  // namespace
-
-void SwapSites(TargetSites& sites, std::size_t point, std::size_t rank1, std::size_t rank2)
-{
-  std::swap(sites.at(point).at(rank1), sites.at(point).at(rank2));
-}
 
 PointCandidates LocateTargetSites(SurveyState& state, const SearchTarget& target, const Stratum& stratum,
                                   RunObserver& observer)

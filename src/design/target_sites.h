@@ -30,7 +30,4 @@ using PointCandidates = std::array<CandidateSite, 3>;
 /// that no old site can come back.
 using TargetSites = std::array<PointCandidates, MostDesignPoints>;
 
-/// `SwapSites`: exchanges two ranks of one point (all 0-based).
-void SwapSites(TargetSites& sites, std::size_t point, std::size_t rank1, std::size_t rank2);
-
 }  // namespace veln

@@ -1,9 +1,11 @@
 #include "forms/igc_form.h"
 
+#include "graphics/colour_maps.h"
+#include "graphics/histograms.h"
+#include "graphics/line_plots.h"
 #include "toolkit/number_text.h"
 
 #include <algorithm>
-#include <cstddef>
 
 namespace veln {
 
@@ -23,11 +25,11 @@ IgcForm LoadIgcForm(const SurveyGraph& graph, const SurveyState& state)
   return form;
 }
 
-void ChooseDirection(IgcForm& form, bool northSouth)
+void ChooseDirection(IgcForm& form, FieldAxis rows)
 {
   if (form.DirectionEnabled) {
-    form.Option1 = northSouth;
-    form.Option2 = !northSouth;
+    form.Option1 = rows == FieldAxis::Y;
+    form.Option2 = rows == FieldAxis::X;
   }
 }
 
@@ -53,27 +55,25 @@ void ChoosePlaces(IgcForm& form, int places)
 
 void InitializeGraphics(IgcForm& form, SurveyGraph& graph, const SurveyState& state, Dialogs& dialogs)
 {
-  const auto enable = [&graph](GraphEntry entry) { graph.Enabled.set(static_cast<std::size_t>(entry)); };
   if (form.Check1 && !form.Option1 && !form.Option2) {
     dialogs.Inform("Please select the Transect Direction before attempting to initialize Line Plots!");
     return;
   }
   if (form.Check1) {
-    enable(GraphEntry::mnuLine);
-    graph.TransectAxis = form.Option1 ? 'y' : 'x';
+    graph.Enable({GraphEntry::mnuLine});
+    graph.TransectAxis = form.Option1 ? FieldAxis::Y : FieldAxis::X;
     if (state.SignalCount == 2) {
-      enable(GraphEntry::mnuLs2);
-      enable(GraphEntry::mnuLs1s2);
+      graph.Enable({GraphEntry::mnuLs2, GraphEntry::mnuLs1s2});
     }
     InitRows(graph, state);
   }
   if (form.Check2) {
-    enable(GraphEntry::mnuHist);
+    graph.Enable({GraphEntry::mnuHist});
     InitHist(graph, state);
   }
   SetCCDDP(graph, {form.ColorChoice, form.PlacesChoice, form.SizeChoice});
   if (form.Check3) {
-    enable(GraphEntry::mnuCSG);
+    graph.Enable({GraphEntry::mnuCSG});
     InitCSG(graph, state);
   }
   SetHLOps(graph, form.Check4, form.Check5);

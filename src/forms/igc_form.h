@@ -33,8 +33,9 @@ struct IgcForm {
 /// `Form_Load`. Directions and highlights are not remembered; the rest is as in force.
 IgcForm LoadIgcForm(const SurveyGraph& graph, const SurveyState& state);
 
-/// A click on `Option1` (North / South) or `Option2`. Without effect on a grid survey.
-void ChooseDirection(IgcForm& form, bool northSouth);
+/// A click on `Option1`, rows along y from north to south, or `Option2`, along x. Without effect on a grid
+/// survey.
+void ChooseDirection(IgcForm& form, FieldAxis rows);
 /// A click on `Check1`. Without effect on a grid survey.
 void TickLinePlots(IgcForm& form, bool on);
 /// A move of `HScroll1`; held between 1 and 10.

@@ -19,12 +19,12 @@ void MoveRotation(PctForm& form, int degrees)
   form.HScroll1 = std::clamp(degrees, -HalfTurn, HalfTurn);
 }
 
-void ApplyTranslation(PctForm& form, SurveyGraph& graph, SurveyState& state, const SrsForm* design)
+void ApplyTranslation(PctForm& form, SurveyGraph& graph, SurveyState& state, bool designIsPending)
 {
   if (!form.Selected) {
     return;
   }
-  if (design != nullptr && design->Finished) {
+  if (designIsPending) {
     throw Refusal(DesignIsPending);
   }
   TranslateCoordinates(state, {*form.Selected, form.HScroll1});

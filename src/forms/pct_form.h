@@ -1,6 +1,5 @@
 #pragma once
 
-#include "design/srs_form.h"
 #include "graphics/survey_graph.h"
 #include "survey/coordinate_translation.h"
 #include "workspace/survey_state.h"
@@ -32,9 +31,9 @@ struct PctForm {
 /// A move of `HScroll1`; held between -180 and 180.
 void MoveRotation(PctForm& form, int degrees);
 
-/// `Command2` "Apply Translation": translates the survey, closes, and tells the graphics window. `design` is
-/// the design window's state, null while it is not open. Throws Refusal, with nothing changed and the form
-/// open, while a design waits for its decision or when the coordinates would leave the doubles.
-void ApplyTranslation(PctForm& form, SurveyGraph& graph, SurveyState& state, const SrsForm* design);
+/// `Command2` "Apply Translation": translates the survey, closes, and tells the graphics window. Throws
+/// Refusal, with nothing changed and the form open, while a design waits for its decision or when the
+/// coordinates would leave the doubles.
+void ApplyTranslation(PctForm& form, SurveyGraph& graph, SurveyState& state, bool designIsPending);
 
 }  // namespace veln

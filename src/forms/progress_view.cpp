@@ -22,16 +22,6 @@ constexpr int SiteWidth = 1;
 constexpr int CandidateWidth = 2;
 constexpr int CurrentWidth = 3;
 
-double Half(const Limits& range)
-{
-  return (range.Maximum - range.Minimum) / 2;
-}
-
-double Middle(const Limits& range)
-{
-  return Half(range) + range.Minimum;
-}
-
 }  // namespace
 
 ProgressView::ProgressView(const SurveyState& state, std::function<void()> repaint)
@@ -54,21 +44,15 @@ void ProgressView::Clear()
 
 DrawPoint ProgressView::Place(double x, double y) const
 {
-  return {(x - Middle(rangeX_)) / Half(rangeX_), (Middle(rangeY_) - y) / Half(rangeY_)};
+  return {(x - rangeX_.Middle()) / rangeX_.Half(), (rangeY_.Middle() - y) / rangeY_.Half()};
 }
 
 void ProgressView::MapReady()
 {
   const FieldExtent field = MeasureField(state_);
-  rangeX_ = field.X;
-  rangeY_ = field.Y;
-  const double hx = Half(field.X);
-  const double hy = Half(field.Y);
-  if (hx <= hy) {
-    rangeX_ = {Middle(field.X) - hy, Middle(field.X) + hy};
-  } else {
-    rangeY_ = {Middle(field.Y) - hx, Middle(field.Y) + hx};
-  }
+  const FieldExtent square = field.SquareAbout(field.X.Middle(), field.Y.Middle());
+  rangeX_ = square.X;
+  rangeY_ = square.Y;
   const Pen freePen{QBColor(FreeSite), SiteWidth};
   const Pen otherPen{QBColor(OtherSite), SiteWidth};
   picture_.Marks.reserve(picture_.Marks.size() + state_.SiteStatus.size());

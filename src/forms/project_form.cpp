@@ -4,6 +4,8 @@
 #include "toolkit/refusal.h"
 #include "workspace/project.h"
 
+#include <utility>
+
 namespace veln {
 
 namespace {
@@ -96,14 +98,20 @@ bool KeyInFieldId(ProjectForm& form, const Keystroke& key, Dialogs& dialogs)
   return passes;
 }
 
-bool AcceptProjectForm(ProjectForm& form, SurveyState& state, Dialogs& dialogs)
+bool AcceptProjectForm(ProjectForm& form, SurveyState& state, FileLock& field, Dialogs& dialogs)
 {
+  const FieldPlace place = PlaceOfField(state.ProgramDir, form.LblPrj, form.LblFID);
+  const bool own = field.Holds(FieldLockFile(place));
+  FileLock taken = own ? FileLock() : TakeField(place, "veln-qtrd", std::chrono::milliseconds(0));
   if (!CheckAlphaCode(state.ProgramDir, form.LblPrj, form.LblFID, dialogs)) {
     HideFieldId(form);
     form.Text3.clear();
     return false;
   }
   AcceptProject(state, form.LblPrj, form.LblFID, form.Text2);
+  if (!own) {
+    field = std::move(taken);
+  }
   return true;
 }
 

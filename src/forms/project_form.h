@@ -1,6 +1,7 @@
 #pragma once
 
 #include "toolkit/dialogs.h"
+#include "toolkit/file_lock.h"
 #include "workspace/survey_state.h"
 
 #include <string>
@@ -50,8 +51,9 @@ bool KeyInProjectName(ProjectForm& form, const Keystroke& key, Dialogs& dialogs)
 /// The keystroke filter of `Text3`. `Command1` and `LblFID` show on the fourth character alone.
 bool KeyInFieldId(ProjectForm& form, const Keystroke& key, Dialogs& dialogs);
 
-/// `Command1` "OK": the overwrite check, then project, field ID and description go into the record. False:
-/// the user is choosing another code, and the window stays open.
-bool AcceptProjectForm(ProjectForm& form, SurveyState& state, Dialogs& dialogs);
+/// `Command1` "OK": the overwrite check, then project, field ID and description go into the record, and
+/// `field` is the lock of that field in place of an earlier one's. False: the user is choosing another code,
+/// and the window stays open. Throws Refusal if another process works on the field.
+bool AcceptProjectForm(ProjectForm& form, SurveyState& state, FileLock& field, Dialogs& dialogs);
 
 }  // namespace veln

@@ -1,8 +1,8 @@
-// The colour-scale maps, the designs laid over them, and the labelled site map.
+#include "graphics/colour_maps.h"
+
 #include "graphics/graph_menu.h"
 #include "graphics/plot_axes.h"
 #include "graphics/plot_frame.h"
-#include "graphics/survey_graph.h"
 #include "toolkit/number_text.h"
 
 #include <algorithm>
@@ -72,11 +72,11 @@ std::size_t ClassOf(double value, const MapSource& source)
 /// Where sites stand on a map.
 class MapPlaces {
  public:
-  MapPlaces(const SurveyState& state, const MapAxes& axes)
+  MapPlaces(const SurveyState& state, const FieldExtent& limits)
       : x_(SeriesOf(state, state.CoordX)),
         y_(SeriesOf(state, state.CoordY)),
-        scaleX_({axes.X.Low, axes.X.High}),
-        scaleY_({axes.Y.Low, axes.Y.High})
+        scaleX_(limits.X),
+        scaleY_(limits.Y)
   {
   }
 
@@ -99,9 +99,9 @@ void CSPlot(SurveyGraph& graph, const SurveyState& state, const MapSource& sourc
   Plot& plot = graph.Shown;
   PlotRefresh(plot);
   const MapAxes axes =
-      EqualAspect(graph.XRange, graph.YRange, AxisFormat::Coordinate, graph.Options.DecimalPlaces);
+      EqualAspect({graph.XRange, graph.YRange}, AxisFormat::Coordinate, graph.Options.DecimalPlaces);
   ShowMapAxes(plot, axes);
-  const MapPlaces places(state, axes);
+  const MapPlaces places(state, {axes.X.Range, axes.Y.Range});
   const MapColours& colours = ColoursOf(graph.Options, graph.Options.MapPalette);
   const auto width = static_cast<double>(graph.Options.SymbolSize);
   const std::size_t count = std::min(places.Count(), source.Values.size());
@@ -132,7 +132,7 @@ void DrawOverlay(SurveyGraph& graph, const SurveyState& state, const DesignFlags
   const int width = std::clamp(graph.Options.SymbolSize + 2, NarrowestOverlay, LargestSymbol);
   const int colour = graph.Options.MapPalette == GreyPalette ? OnGrey : OnColours;
   const Pen pen{QBColor(colour), static_cast<double>(width)};
-  const MapPlaces places(state, EqualAspectShown(graph.XRange, graph.YRange, graph.Shown.Labels));
+  const MapPlaces places(state, EqualAspectShown({graph.XRange, graph.YRange}, graph.Shown.Labels));
   for (std::size_t i = 0; i < places.Count(); ++i) {
     if (IsAskedFor(state.SiteStatus[i], designs)) {
       graph.Shown.Picture.PSet(places.At(i), pen);
@@ -143,8 +143,8 @@ void DrawOverlay(SurveyGraph& graph, const SurveyState& state, const DesignFlags
 Limits Widened(const Limits& range)
 {
   constexpr double Share = 0.05;
-  const double width = range.Maximum - range.Minimum;
-  return {range.Minimum - Share * width, range.Maximum + Share * width};
+  const double margin = Share * range.Width();
+  return {range.Minimum - margin, range.Maximum + margin};
 }
 
 /// A chosen site of the labelled map: a heavy dot with its number to the upper left.
@@ -166,22 +166,33 @@ void InitCSG(SurveyGraph& graph, const SurveyState& state)
 {
   graph.Options.MapPalette = graph.Options.PaletteChoice;
   const bool two = state.SignalCount == 2;
-  const auto enable = [&graph](GraphEntry entry, bool exists) {
-    if (exists) {
-      graph.Enabled.set(static_cast<std::size_t>(entry));
-    }
-  };
-  enable(GraphEntry::mnuVs2, two);
-  enable(GraphEntry::mnuVz1, state.DecorrDone);
-  enable(GraphEntry::mnuVz2, state.DecorrDone && two);
-  enable(GraphEntry::mnuVta, state.TransitionDone);
+  if (two) {
+    graph.Enable({GraphEntry::mnuVs2});
+  }
+  if (state.DecorrDone) {
+    graph.Enable({GraphEntry::mnuVz1});
+  }
+  if (state.DecorrDone && two) {
+    graph.Enable({GraphEntry::mnuVz2});
+  }
+  if (state.TransitionDone) {
+    graph.Enable({GraphEntry::mnuVta});
+  }
+}
+
+DesignFlags ExistingDesigns(const SurveyState& state)
+{
+  DesignFlags designs{};
+  std::fill_n(designs.begin(), std::min(state.DesignCount, MaxDesigns), true);
+  designs.back() = state.ManualDesignDone;
+  return designs;
 }
 
 void ShowColourMap(SurveyGraph& graph, const SurveyState& state, GraphEntry entry)
 {
   RequireEntry(graph, entry);
   if (state.OverlayReady) {
-    graph.Enabled.set(static_cast<std::size_t>(GraphEntry::mnuOSS));
+    graph.Enable({GraphEntry::mnuOSS});
   }
   HidePanels(graph.Shown);
   graph.MapEntry = entry;
@@ -218,11 +229,11 @@ void MakeSSMap(SurveyGraph& graph, const SurveyState& state, const DesignFlags& 
   Plot& plot = graph.Shown;
   HidePanels(plot);
   const MapAxes axes =
-      EqualAspect(Widened(graph.XRange), Widened(graph.YRange), AxisFormat::FixedCoordinate, FewestPlaces);
+      EqualAspect({Widened(graph.XRange), Widened(graph.YRange)}, AxisFormat::FixedCoordinate, FewestPlaces);
   ShowMapAxes(plot, axes);
   plot.Title = "VELN Sample Site Locations";
   PlotRefresh(plot);
-  const MapPlaces places(state, axes);
+  const MapPlaces places(state, {axes.X.Range, axes.Y.Range});
   for (std::size_t i = 0; i < places.Count(); ++i) {
     const bool masked = state.SiteStatus[i] == site_status::Masked;
     PutSite(plot, i, places.At(i), {QBColor(masked ? MaskedColour : SpeckColour), 1});

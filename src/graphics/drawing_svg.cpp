@@ -23,13 +23,7 @@ namespace veln {
 namespace {
 
 constexpr double TwipsPerPoint = 20;
-constexpr UnitPoint Nowhere{std::numeric_limits<std::int32_t>::min(), 0};
-
-void Append(std::string& text, std::int32_t number)
-{
-  std::array<char, 12> digits{};
-  text.append(digits.data(), std::to_chars(digits.data(), digits.data() + digits.size(), number).ptr);
-}
+constexpr TwipPoint Nowhere{std::numeric_limits<std::int32_t>::min(), 0};
 
 std::string Number(double value)
 {
@@ -70,7 +64,7 @@ std::string ClassOf(const Pen& pen)
 std::string StyleSheet(const Drawing& drawing)
 {
   std::map<std::string, Pen> pens;
-  Pen last{{}, -1};
+  Pen last{{}, -1};  // most marks have the pen of the one before
   for (const DrawMark& mark : drawing.Marks) {
     const auto* dot = std::get_if<DotMark>(&mark);
     const auto* line = std::get_if<LineMark>(&mark);
@@ -116,7 +110,7 @@ std::string Escaped(const std::string& text)
 
 /// A command of a path with a place.
 struct PathWord {
-  PathWord(char command, UnitPoint at)
+  PathWord(char command, TwipPoint at)
   {
     Text[0] = command;
     char* end = std::to_chars(Text.data() + 1, Text.data() + Text.size(), at.X).ptr;
@@ -131,113 +125,74 @@ struct PathWord {
   std::size_t Size;
 };
 
-/// The data of a path of one pen width, and where its last piece ended and began.
-struct PathData {
-  double PenWidth = 1;
-  std::string Data;
-  UnitPoint Current = Nowhere;
-  UnitPoint LastFrom = Nowhere;
-};
-
-/// A layer of the document: paths of one colour, or anything else as it stands.
-struct Layer {
-  Colour Ink;
-  std::vector<PathData> Paths;
-  std::string Other;
-};
-
-/// Turns marks into layers that keep the picture of their order.
+/// Writes layers of marks as elements of the document.
 class ElementWriter {
  public:
-  explicit ElementWriter(const TwipSurface& surface)
-      : surface_(surface), sorter_(surface.Width, surface.Height, static_cast<std::int32_t>(TwipsPerPixel))
-  {
-  }
+  explicit ElementWriter(const TwipSurface& surface) : surface_(surface) {}
 
-  void Write(std::span<const DrawMark> marks)
+  void Write(const MarkLayer& layer)
   {
-    for (std::size_t i = 0; i < marks.size(); ++i) {
-      const auto* dot = std::get_if<DotMark>(&marks[i]);
-      if (dot == nullptr || !IsHidden(*dot, marks.subspan(i + 1))) {
-        std::visit(*this, marks[i]);
-      }
+    path_.clear();
+    current_ = lastFrom_ = Nowhere;
+    for (const DrawMark* mark : layer.Marks) {
+      std::visit(*this, *mark);
+    }
+    if (!path_.empty()) {
+      text_ += "<path class=\"" + ClassOf(layer.Stroke) + "\" d=\"" + path_ + "\"/>\n";
     }
   }
 
   void operator()(const DotMark& dot)
   {
-    const UnitPoint at = surface_.At(dot.At);
-    if (PathData* path = PathFor(at, at, dot.Stroke)) {
-      Move(*path, at);
-      path->Data += "h0";
-    }
+    Move(surface_.At(dot.At));
+    path_ += "h0";
   }
-  void operator()(const LineMark& line)
-  {
-    const UnitPoint from = surface_.At(line.From);
-    const UnitPoint to = surface_.At(line.To);
-    if (PathData* path = PathFor(from, to, line.Stroke)) {
-      Join(*path, from, to);
-    }
-  }
+  void operator()(const LineMark& line) { Join(surface_.At(line.From), surface_.At(line.To)); }
   void operator()(const BoxMark& box)
   {
-    const UnitPoint a = surface_.At(box.First);
-    const UnitPoint b = surface_.At(box.Second);
+    const TwipPoint a = surface_.At(box.First);
+    const TwipPoint b = surface_.At(box.Second);
     const auto pen = static_cast<std::int32_t>(box.Stroke.Width * TwipsPerPixel);
-    UnitPoint corner{std::min(a.X, b.X), std::min(a.Y, b.Y)};
-    UnitPoint size{std::abs(a.X - b.X), std::abs(a.Y - b.Y)};
+    TwipPoint corner{std::min(a.X, b.X), std::min(a.Y, b.Y)};
+    TwipPoint size{std::abs(a.X - b.X), std::abs(a.Y - b.Y)};
     if (box.Filled) {  // at least as thick as its pen
       corner = {corner.X - std::max(0, pen - size.X) / 2, corner.Y - std::max(0, pen - size.Y) / 2};
       size = {std::max(size.X, pen), std::max(size.Y, pen)};
     }
-    std::string text = "<rect";
+    text_ += "<rect";
     for (const auto& [name, value] : {std::pair{" x=\"", corner.X}, std::pair{" y=\"", corner.Y},
                                       std::pair{" width=\"", size.X}, std::pair{" height=\"", size.Y}}) {
-      text += name;
-      Append(text, value);
-      text += '"';
+      text_ += name + std::to_string(value) + '"';
     }
-    text += box.Filled
-                ? " fill=\"" + HexColour(box.Stroke.Ink) + "\"/>"
-                : " stroke=\"" + HexColour(box.Stroke.Ink) + "\" stroke-width=\"" + Number(pen) + "\"/>";
-    Alone(text);
+    text_ += box.Filled
+                 ? " fill=\"" + HexColour(box.Stroke.Ink) + "\"/>\n"
+                 : " stroke=\"" + HexColour(box.Stroke.Ink) + "\" stroke-width=\"" + Number(pen) + "\"/>\n";
   }
   void operator()(const TextMark& text)
   {
     constexpr double Ascent = 0.92;  // of the font size, from a text's top to its baseline
     const double size = text.FontSize * TwipsPerPoint;
-    UnitPoint at = surface_.At(text.At);
+    TwipPoint at = surface_.At(text.At);
     TextAnchor anchor = text.Anchor;
     if (anchor == TextAnchor::Start && at.X < surface_.Width && at.X + WidthOf(text) > surface_.Width) {
       anchor = TextAnchor::End;  // whole at the right edge
       at.X = surface_.Width;
     }
-    std::string element = "<text x=\"" + Number(at.X) + "\" y=\"" + Number(at.Y + std::round(Ascent * size)) +
-                          "\" font-size=\"" + Number(size) + "\" fill=\"" + HexColour(text.Ink) + "\"";
+    text_ += "<text x=\"" + Number(at.X) + "\" y=\"" + Number(at.Y + std::round(Ascent * size)) +
+             "\" font-size=\"" + Number(size) + "\" fill=\"" + HexColour(text.Ink) + "\"";
     if (text.Bold) {
-      element += " font-weight=\"bold\"";
+      text_ += " font-weight=\"bold\"";
     }
     if (anchor != TextAnchor::Start) {
-      element += anchor == TextAnchor::Middle ? " text-anchor=\"middle\"" : " text-anchor=\"end\"";
+      text_ += anchor == TextAnchor::Middle ? " text-anchor=\"middle\"" : " text-anchor=\"end\"";
     }
     if (text.Text.starts_with(' ') || text.Text.ends_with(' ') || text.Text.find("  ") != std::string::npos) {
-      element += " xml:space=\"preserve\"";
+      text_ += " xml:space=\"preserve\"";
     }
-    Alone(element + ">" + Escaped(text.Text) + "</text>");
+    text_ += ">" + Escaped(text.Text) + "</text>\n";
   }
 
-  [[nodiscard]] std::string Text() const
-  {
-    std::string text;
-    for (const Layer& layer : layers_) {
-      for (const PathData& path : layer.Paths) {
-        text += "<path class=\"" + ClassOf({layer.Ink, path.PenWidth}) + "\" d=\"" + path.Data + "\"/>\n";
-      }
-      text += layer.Other;
-    }
-    return text;
-  }
+  [[nodiscard]] const std::string& Text() const { return text_; }
 
  private:
   /// How wide a text may be in twips: fonts are the viewer's, this is that of a wide one.
@@ -252,98 +207,63 @@ class ElementWriter {
     return width * text.FontSize * TwipsPerPoint;
   }
 
-  /// Whether one of the next two marks is a dot that covers this one all over, as a highlight does.
-  static bool IsHidden(const DotMark& dot, std::span<const DrawMark> next)
-  {
-    return std::ranges::any_of(next.first(std::min<std::size_t>(next.size(), 2)), [&dot](const auto& mark) {
-      const auto* cover = std::get_if<DotMark>(&mark);
-      return cover != nullptr && cover->At == dot.At && cover->Stroke.Width >= dot.Stroke.Width;
-    });
-  }
-
-  PathData* PathFor(UnitPoint from, UnitPoint to, const Pen& pen)
-  {
-    const double width = pen.Width * TwipsPerPixel;
-    if (!sorter_.Touches(from, to, width)) {
-      return nullptr;
-    }
-    const std::size_t place = sorter_.Place(from, to, pen.Ink, width);
-    if (place == layers_.size()) {
-      layers_.push_back({pen.Ink, {}, ""});
-    }
-    std::vector<PathData>& paths = layers_.at(place).Paths;
-    const auto found = std::ranges::find(paths, pen.Width, &PathData::PenWidth);
-    return found != paths.end() ? &*found : &paths.emplace_back(PathData{pen.Width, "", Nowhere, Nowhere});
-  }
-
-  void Alone(const std::string& text)
-  {
-    sorter_.PlaceAlone();
-    layers_.push_back({{}, {}, text + "\n"});
-  }
-
   /// Goes to a place by its coordinates or by the way from where the path stands, whichever is shorter.
-  static void Go(PathData& path, char absolute, char relative, UnitPoint to)
+  void Go(char absolute, char relative, TwipPoint to)
   {
     PathWord word(absolute, to);
-    if (!path.Data.empty()) {
-      const PathWord way(relative, {to.X - path.Current.X, to.Y - path.Current.Y});
+    if (!path_.empty()) {
+      const PathWord way(relative, {to.X - current_.X, to.Y - current_.Y});
       word = way.Size < word.Size ? way : word;
     }
-    path.Data.append(word.Text.data(), word.Size);
-    path.Current = to;
+    path_.append(word.Text.data(), word.Size);
+    current_ = to;
   }
 
-  static void Move(PathData& path, UnitPoint to) { Go(path, 'M', 'm', to); }
+  void Move(TwipPoint to) { Go('M', 'm', to); }
 
   /// Goes on from where the path stands when it can: along a row, or to and fro for rays from one point.
-  static void Join(PathData& path, UnitPoint from, UnitPoint to)
+  void Join(TwipPoint from, TwipPoint to)
   {
-    const UnitPoint start = from;
-    if (path.Current == to) {
+    const TwipPoint start = from;
+    if (current_ == to) {
       std::swap(from, to);
-    } else if (path.Current != from) {
-      if (path.LastFrom == from) {
+    } else if (current_ != from) {
+      if (lastFrom_ == from) {
         std::swap(from, to);
       }
-      Move(path, from);
+      Move(from);
     }
-    Go(path, 'L', 'l', to);
-    path.LastFrom = start;
+    Go('L', 'l', to);
+    lastFrom_ = start;
   }
 
   const TwipSurface& surface_;
-  MarkLayers sorter_;
-  std::vector<Layer> layers_;
+  std::string text_;
+  std::string path_;  // of the layer at hand
+  TwipPoint current_, lastFrom_;
 };
-
-std::string ElementsOf(const TwipSurface& surface, std::span<const DrawMark> marks)
-{
-  if (marks.empty()) {
-    return "";
-  }
-  ElementWriter writer(surface);
-  writer.Write(marks);
-  return writer.Text();
-}
 
 /// The marks of a drawing: before, inside and behind its clipping.
 std::string Body(const Drawing& drawing, const TwipSurface& surface)
 {
-  const std::span<const DrawMark> marks(drawing.Marks);
+  const auto elementsOf = [&](std::span<const DrawMark> marks) {
+    ElementWriter writer(surface);
+    for (const MarkLayer& layer : LayersOf(drawing, marks)) {
+      writer.Write(layer);
+    }
+    return writer.Text();
+  };
+  const DrawingParts parts = PartsOf(drawing);
   if (!drawing.Clip) {
-    return ElementsOf(surface, marks);
+    return elementsOf(parts.Before);
   }
-  const std::size_t begin = std::min(drawing.Clip->Begin, marks.size());
-  const std::size_t end = std::clamp(drawing.Clip->End, begin, marks.size());
-  const UnitPoint a = surface.At(drawing.Clip->First);
-  const UnitPoint b = surface.At(drawing.Clip->Second);
+  const TwipPoint a = surface.At(drawing.Clip->First);
+  const TwipPoint b = surface.At(drawing.Clip->Second);
   const std::string clip = R"(<clipPath id="box"><rect x=")" + Number(std::min(a.X, b.X)) + "\" y=\"" +
                            Number(std::min(a.Y, b.Y)) + "\" width=\"" + Number(std::abs(a.X - b.X)) +
                            "\" height=\"" + Number(std::abs(a.Y - b.Y)) + "\"/></clipPath>\n";
-  return clip + ElementsOf(surface, marks.first(begin)) + "<g clip-path=\"url(#box)\">\n" +
-         ElementsOf(surface, marks.subspan(begin, end - begin)) + "</g>\n" +
-         ElementsOf(surface, marks.subspan(end));
+  return clip + elementsOf(parts.Before) + "<g clip-path=\"url(#box)\">\n" + elementsOf(parts.Clipped) +
+         "</g>\n" + elementsOf(parts.Behind);
 }
 
 }  // namespace

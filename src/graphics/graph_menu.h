@@ -1,6 +1,7 @@
 #pragma once
 
 #include "graphics/plot_axes.h"
+#include "graphics/plot_statistics.h"
 #include "graphics/survey_graph.h"
 
 #include <span>
@@ -13,24 +14,35 @@ namespace veln {
 /// Throws Refusal if the entry is closed.
 void RequireEntry(const SurveyGraph& graph, GraphEntry entry);
 
-/// Disables `mnuOSS`, as every selection but that of a map does.
-void CloseOverlay(SurveyGraph& graph);
-
 /// Clears the plot, its labels and title, and hides the panels.
 void ClearGraph(SurveyGraph& graph);
 
 /// Shows the axes and the labels of a map.
 void ShowMapAxes(Plot& plot, const MapAxes& axes);
 
-/// Pearson's correlation of two series rounded to four places, as text; empty where it is not defined.
-std::string CorrelationText(std::span<const double> x, std::span<const double> y);
-
-/// Mean and deviation of a series rounded to three places, as text. The deviation of a single value is empty.
-struct MomentTexts {
-  std::string Mean;
-  std::string Std;
+/// A coordinate of all sites, on the axis that the window took at its opening.
+struct CoordinateSource {
+  std::span<const double> Values;
+  PlotAxis Axis;
+  std::string Symbol;  ///< "x"
+  std::string Name;    ///< "X", in titles
 };
 
-MomentTexts MomentsAsText(std::span<const double> series);
+CoordinateSource CoordinateOf(const SurveyGraph& graph, const SurveyState& state, FieldAxis axis);
+
+/// A signal of all sites, on the axis that the window took at its opening.
+struct SignalSource {
+  int Number = 1;
+  std::span<const double> Values;
+  PlotAxis Axis;
+  std::string Symbol;  ///< "s1"
+  std::string Label;   ///< as titles name it
+  MomentBlock Panel;   ///< as the main window shows it, which is what the rules ask for here
+};
+
+SignalSource SignalOf(const SurveyGraph& graph, const SurveyState& state, int number);
+
+/// "Corr(s1, x)".
+std::string CorrelationTitle(const SignalSource& signal, const CoordinateSource& coordinate);
 
 }  // namespace veln

@@ -1,8 +1,8 @@
+#include "graphics/histograms.h"
+
 #include "graphics/graph_menu.h"
-#include "graphics/plot_axes.h"
 #include "graphics/plot_frame.h"
 #include "graphics/plot_statistics.h"
-#include "graphics/survey_graph.h"
 
 #include <algorithm>
 #include <array>
@@ -54,12 +54,11 @@ Limits RangeOf(const HistogramSource& source)
 std::size_t BinOf(double value, const Limits& range)
 {
   constexpr auto Bins = static_cast<double>(HistogramBins);
-  const double width = range.Maximum - range.Minimum;
-  if (width == 0) {
+  if (range.Width() == 0) {
     return HistogramBins - 1;
   }
   constexpr double Rounding = 1E-9;
-  const double bin = std::floor(Bins * (1 - (range.Maximum - value) / width) + Rounding) + 1;
+  const double bin = std::floor(Bins * (1 - (range.Maximum - value) / range.Width()) + Rounding) + 1;
   return static_cast<std::size_t>(std::clamp(bin, 1.0, Bins)) - 1;
 }
 
@@ -93,7 +92,7 @@ void InitHist(SurveyGraph& graph, const SurveyState& state)
     for (const double value : source.Values) {
       ++graph.HistCount.at(s).at(BinOf(value, range));
     }
-    graph.Enabled.set(static_cast<std::size_t>(source.Entry));
+    graph.Enable({source.Entry});
   }
 }
 
@@ -103,18 +102,17 @@ void ShowHistogram(SurveyGraph& graph, const SurveyState& state, GraphEntry entr
   const std::vector<HistogramSource> sources = HistogramSources(state);
   const auto source = std::ranges::find(sources, entry, &HistogramSource::Entry);
   Plot& plot = graph.Shown;
-  CloseOverlay(graph);
+  graph.Close(GraphEntry::mnuOSS);
   PlotRefresh(plot);
   graph.Content = GraphContent::Bars;
   plot.Title = source->Title;
   HidePanels(plot);
   const auto& counts = graph.HistCount.at(static_cast<std::size_t>(source - sources.begin()));
   const double tallest = *std::ranges::max_element(counts);
-  LabelAxes(plot, AxisOf(RangeOf(*source), AxisFormat::Signal), {0, tallest, AxisFormat::Count});
+  const Limits range = RangeOf(*source);
+  LabelAxes(plot, {range, AxisFormat::Signal}, {{0, tallest}, AxisFormat::Count});
   if (!source->FromZero) {
-    const MomentTexts moments = MomentsAsText(source->Values);
-    SetStats(plot, {source->Name, moments.Mean, moments.Std},
-             {"hist", plot.Labels.txtMinX, plot.Labels.txtMaxX}, {"none", "0", "0"});
+    SetStats(plot, MomentsOf(source->Name, source->Values), range);
   }
   DrawHistBars(plot, counts, tallest);
 }

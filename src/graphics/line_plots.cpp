@@ -1,8 +1,8 @@
+#include "graphics/line_plots.h"
+
 #include "graphics/graph_menu.h"
-#include "graphics/plot_axes.h"
 #include "graphics/plot_frame.h"
 #include "graphics/plot_statistics.h"
-#include "graphics/survey_graph.h"
 #include "toolkit/number_text.h"
 
 #include <algorithm>
@@ -11,6 +11,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace veln {
 
@@ -41,6 +42,14 @@ void CloseStats(SurveyGraph& graph)
   graph.LinePanel.Command7Enabled = false;
 }
 
+/// `Trap_T1X`: text that is not a number becomes "0".
+void TrapRowText(SurveyGraph& graph)
+{
+  if (!NumberIn(graph.LinePanel.Text1)) {
+    graph.LinePanel.Text1 = "0";
+  }
+}
+
 /// The row of `Text1`, cut where the survey has become shorter. Tells when there is none.
 std::optional<SurveyRow> RowToPlot(SurveyGraph& graph, const SurveyState& state, Dialogs& dialogs)
 {
@@ -48,7 +57,7 @@ std::optional<SurveyRow> RowToPlot(SurveyGraph& graph, const SurveyState& state,
   const double number = RowInText(graph);
   if (number >= 1 && number <= graph.RowCount()) {
     SurveyRow row = graph.Rows.at(static_cast<std::size_t>(number) - 1);
-    const auto sites = static_cast<std::size_t>(state.SurveySize);
+    const std::size_t sites = SeriesOf(state, state.CoordX).size();
     if (row.Start < sites) {
       row.End = std::min(row.End, sites - 1);
       return row;
@@ -80,7 +89,7 @@ void LinePlot(SurveyGraph& graph, const SurveyState& state, const LineSeries& se
     if (i == row.Start) {
       PutSite(plot, i, from, dot);
     } else {
-      plot.Picture.PSet(from, dot);
+      plot.Picture.PSet(from, dot);  // pointed at already, as the end of the line before
     }
     PutSite(plot, i + 1, to, dot);
     plot.Picture.Line(from, to, {QBColor(series.Colour), 1});
@@ -89,22 +98,13 @@ void LinePlot(SurveyGraph& graph, const SurveyState& state, const LineSeries& se
   }
 }
 
-/// What a line mode says and shows.
-struct LineModeSource {
-  std::string Names;
-  Limits Range;
-};
-
-LineModeSource SourceOf(const SurveyGraph& graph, const SurveyState& state)
+/// The signals that the line mode shows.
+std::vector<SignalSource> SignalsShown(const SurveyGraph& graph, const SurveyState& state)
 {
-  switch (graph.LineMode) {
-    case 1:
-      return {state.SignalLabel[0], graph.S1Range};
-    case 2:
-      return {state.SignalLabel[1], graph.S2Range};
-    default:
-      return {state.SignalLabel[0] + " & " + state.SignalLabel[1], graph.SRange};
+  if (graph.LineMode == BothSignals) {
+    return {SignalOf(graph, state, 1), SignalOf(graph, state, 2)};
   }
+  return {SignalOf(graph, state, graph.LineMode)};
 }
 
 std::span<const double> PartOf(std::span<const double> series, const SurveyRow& row)
@@ -114,32 +114,28 @@ std::span<const double> PartOf(std::span<const double> series, const SurveyRow& 
 
 /// The statistics of a signal in the row of `Text1`, as the two buttons compute them.
 struct RowStatistics {
-  StatisticsBlock Signal;
-  std::string CorrelationTitle;
-  std::string Correlation;
+  MomentBlock Signal;
+  CorrelationBlock AlongRow;
 };
 
 std::optional<RowStatistics> StatisticsOfRow(SurveyGraph& graph, const SurveyState& state, Dialogs& dialogs,
-                                             int signal)
+                                             int number)
 {
   const auto row = RowToPlot(graph, state, dialogs);
   if (!row) {
     return std::nullopt;
   }
-  const bool alongX = graph.TransectAxis == 'x';
-  const auto values = PartOf(SeriesOf(state, signal == 1 ? state.Signal1 : state.Signal2), *row);
-  const auto position = PartOf(SeriesOf(state, alongX ? state.CoordX : state.CoordY), *row);
-  const MomentTexts moments = MomentsAsText(values);
-  return RowStatistics{
-      {state.Signals.Rows.at(static_cast<std::size_t>(signal) - 1).Label, moments.Mean, moments.Std},
-      "Corr(s" + GeneralForm(signal) + (alongX ? ", x)" : ", y)"),
-      CorrelationText(values, position)};
+  const SignalSource signal = SignalOf(graph, state, number);
+  const CoordinateSource along = CoordinateOf(graph, state, graph.TransectAxis);
+  const auto values = PartOf(signal.Values, *row);
+  return RowStatistics{MomentsOf(signal.Panel.Title, values),
+                       {CorrelationTitle(signal, along), CorrelationOf(values, PartOf(along.Values, *row))}};
 }
 
 void ShowWholePanel(SurveyGraph& graph, const RowStatistics& statistics)
 {
-  SetStats(graph.Shown, statistics.Signal, {"none", "-1", "-1"},
-           {statistics.CorrelationTitle, statistics.Correlation, ""});
+  const auto& [title, r] = statistics.AlongRow;
+  SetStats(graph.Shown, statistics.Signal, {}, {title, UnlessWhole(r)});
 }
 
 }  // namespace
@@ -153,7 +149,7 @@ void StartLinePlots(SurveyGraph& graph, GraphEntry entry)
 {
   RequireEntry(graph, GraphEntry::mnuLine);
   RequireEntry(graph, entry);
-  CloseOverlay(graph);
+  graph.Close(GraphEntry::mnuOSS);
   graph.Shown.LinePanel = true;
   graph.Shown.LegendPanel = false;
   graph.LineMode = entry == GraphEntry::mnuLs1 ? 1 : 2;
@@ -174,13 +170,6 @@ bool KeyInRow(char32_t character, Dialogs& dialogs)
     dialogs.Beep();
   }
   return passes;
-}
-
-void TrapRowText(SurveyGraph& graph)
-{
-  if (!NumberIn(graph.LinePanel.Text1)) {
-    graph.LinePanel.Text1 = "0";
-  }
 }
 
 void NextRow(SurveyGraph& graph)
@@ -219,26 +208,22 @@ void PreviousRow(SurveyGraph& graph)
 
 void PlotRow(SurveyGraph& graph, const SurveyState& state, Dialogs& dialogs)
 {
-  constexpr int Colour1 = 1;
-  constexpr int Colour2 = 2;
   const auto row = RowToPlot(graph, state, dialogs);
   if (!row) {
     return;
   }
-  const bool alongX = graph.TransectAxis == 'x';
-  const auto position = SeriesOf(state, alongX ? state.CoordX : state.CoordY);
-  const Limits& range = alongX ? graph.XRange : graph.YRange;
-  const LineModeSource source = SourceOf(graph, state);
-  LabelAxes(graph.Shown, AxisOf(range, AxisFormat::Coordinate, graph.Options.DecimalPlaces),
-            AxisOf(source.Range, AxisFormat::Signal));
-  graph.Shown.Title = source.Names + " versus " + (alongX ? "X" : "Y") + " for Row #" + graph.LinePanel.Text1;
-  const AxisScale scaleX(range);
-  const AxisScale scaleY(source.Range);
-  if (graph.LineMode != 2) {
-    LinePlot(graph, state, {position, scaleX, SeriesOf(state, state.Signal1), scaleY, Colour1}, *row);
-  }
-  if (graph.LineMode != 1) {
-    LinePlot(graph, state, {position, scaleX, SeriesOf(state, state.Signal2), scaleY, Colour2}, *row);
+  const std::vector<SignalSource> signals = SignalsShown(graph, state);
+  const CoordinateSource along = CoordinateOf(graph, state, graph.TransectAxis);
+  const bool both = signals.size() == 2;
+  const PlotAxis axisY{both ? graph.SRange : signals.front().Axis.Range, AxisFormat::Signal};
+  LabelAxes(graph.Shown, along.Axis, axisY);
+  graph.Shown.Title = signals.front().Label + (both ? " & " + signals.back().Label : "") + " versus " +
+                      along.Name + " for Row #" + graph.LinePanel.Text1;
+  for (const SignalSource& signal : signals) {
+    const int colour = signal.Number;  // blue for s1, green for s2
+    LinePlot(graph, state,
+             {along.Values, AxisScale(along.Axis.Range), signal.Values, AxisScale(axisY.Range), colour},
+             *row);
   }
   graph.Content = GraphContent::Lines;
   (graph.LineMode == 2 ? graph.LinePanel.Command7Enabled : graph.LinePanel.Command6Enabled) = true;
@@ -277,7 +262,7 @@ void ShowRowStats2(SurveyGraph& graph, const SurveyState& state, Dialogs& dialog
     return;
   }
   if (graph.LineMode == BothSignals) {
-    SetSubStats(graph.Shown, statistics->Signal, "s1 s2 Corr", statistics->Correlation);
+    SetSubStats(graph.Shown, statistics->Signal, {"s1 s2 Corr", statistics->AlongRow.R});
     graph.LinePanel.Command7Enabled = false;
   } else {
     ShowWholePanel(graph, *statistics);

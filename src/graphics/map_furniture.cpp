@@ -72,7 +72,7 @@ struct ScaleBar {
 ScaleBar MakeScaleBar(const PlotAxis& axis, double zoom)
 {
   constexpr double CharacterWidth = 0.037;
-  const double perUnit = AxisScale({axis.Low, axis.High}).Half() / zoom;
+  const double perUnit = AxisScale(axis.Range).Half() / zoom;
   const double length = RoundLength(LongestBar * perUnit);
   const std::string text = FormatNumber(length, "0.############");
   const double widest = std::max(length / perUnit, CharacterWidth * static_cast<double>(text.size()));
@@ -117,6 +117,11 @@ void AddArrow(std::vector<DrawMark>& marks, DrawPoint topLeft)
 }
 
 }  // namespace
+
+bool NorthArrowOffered(const SurveyState& state)
+{
+  return state.Orientation.AsSurveyed();
+}
 
 double RoundLength(double longest)
 {

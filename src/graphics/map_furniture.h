@@ -3,6 +3,7 @@
 #include "graphics/plot.h"
 #include "graphics/plot_axes.h"
 #include "toolkit/drawing.h"
+#include "workspace/survey_state.h"
 
 #include <vector>
 
@@ -13,6 +14,10 @@ struct MapFurniture {
   bool ScaleBar = false;
   bool NorthArrow = false;
 };
+
+/// Whether north is up, so that an arrow may say so: not once a translation that was not undone has turned or
+/// mirrored the field.
+bool NorthArrowOffered(const SurveyState& state);
 
 /// The length of a scale bar: 1, 2 or 5 and a power of ten, at most `longest`. Both in the file's units.
 double RoundLength(double longest);

@@ -28,7 +28,6 @@ Drawing LegendDots(const MapLegend& legend)
 {
   constexpr double Width = 3480;  // twips
   constexpr double Height = 1785;
-  constexpr double TwipsPerPixel = 15;
   constexpr double DotWidth = 10;
   constexpr double Column = 440;
   constexpr double FirstRow = 320;

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "graphics/map_legend.h"
+#include "survey/statistics.h"
 #include "toolkit/drawing.h"
 
+#include <array>
 #include <cstddef>
 #include <optional>
 #include <string>
@@ -28,8 +30,7 @@ enum class AxisFormat {
 
 /// An axis: the values at -1 and +1 of the box (on the y axis at the bottom and the top tick).
 struct PlotAxis {
-  double Low = 0;
-  double High = 0;
+  Limits Range;
   AxisFormat Format = AxisFormat::Text;
   int Places = 2;  ///< decimal places of a `Coordinate`
 };
@@ -45,6 +46,12 @@ struct PlotStatistics {
   std::string LblT1, Lblm1, Lblv1;
   std::string LblT2, Lblm2, Lblv2;
   std::string LblCorr, Lblr1, Lblr2;
+
+  /// The lines as they stand together.
+  [[nodiscard]] std::array<std::array<std::string, 3>, 3> Blocks() const
+  {
+    return {{{LblT1, Lblm1, Lblv1}, {LblT2, Lblm2, Lblv2}, {LblCorr, Lblr1, Lblr2}}};
+  }
   bool operator==(const PlotStatistics&) const = default;
 };
 

@@ -10,47 +10,10 @@ namespace veln {
 
 namespace {
 
-double HalfOf(const Limits& limits)
-{
-  return (limits.Maximum - limits.Minimum) / 2;
-}
-
-double MiddleOf(const Limits& limits)
-{
-  return HalfOf(limits) + limits.Minimum;
-}
-
-Limits Around(double centre, double half)
-{
-  return {centre - half, centre + half};
-}
-
-/// The limits of both axes about the centres that the labels show.
-struct EqualLimits {
-  Limits X, Y;
-};
-
-EqualLimits EqualLimitsOf(const Limits& xRange, const Limits& yRange, const std::string& txtMedX,
-                          const std::string& txtMedY)
-{
-  const double hx = HalfOf(xRange);
-  const double hy = HalfOf(yRange);
-  const auto readBack = [](const std::string& text, const Limits& range) {
-    return ParseNumber(text).value_or(MiddleOf(range));
-  };
-  if (hx == 0 && hy == 0) {
-    return {Around(readBack(txtMedX, xRange), 1), Around(MiddleOf(yRange), 1)};
-  }
-  if (hx <= hy) {
-    return {Around(readBack(txtMedX, xRange), hy), yRange};
-  }
-  return {xRange, Around(readBack(txtMedY, yRange), hx)};
-}
-
 /// The value of an axis at a place of the fitted plot, upward.
 double ValueAt(const PlotAxis& axis, double place)
 {
-  const AxisScale scale({axis.Low, axis.High});
+  const AxisScale scale(axis.Range);
   return scale.Middle() + place * scale.Half();
 }
 
@@ -92,7 +55,7 @@ std::string AxisLabel(double value, const PlotAxis& axis)
   return "";
 }
 
-AxisScale::AxisScale(const Limits& limits) : half_(HalfOf(limits)), middle_(MiddleOf(limits))
+AxisScale::AxisScale(const Limits& limits) : half_(limits.Half()), middle_(limits.Middle())
 {
   if (half_ == 0) {
     half_ = 1;
@@ -101,8 +64,8 @@ AxisScale::AxisScale(const Limits& limits) : half_(HalfOf(limits)), middle_(Midd
 
 AxisLabels FittedLabels(const PlotAxis& x, const PlotAxis& y)
 {
-  return {AxisLabel(x.Low, x), AxisLabel(MiddleOf({x.Low, x.High}), x), AxisLabel(x.High, x),
-          AxisLabel(y.Low, y), AxisLabel(MiddleOf({y.Low, y.High}), y), AxisLabel(y.High, y)};
+  return {AxisLabel(x.Range.Minimum, x), AxisLabel(x.Range.Middle(), x), AxisLabel(x.Range.Maximum, x),
+          AxisLabel(y.Range.Minimum, y), AxisLabel(y.Range.Middle(), y), AxisLabel(y.Range.Maximum, y)};
 }
 
 AxisLabels VisibleLabels(const Plot& plot, const PlotView& view)
@@ -129,29 +92,28 @@ AxisLabels VisibleLabels(const Plot& plot, const PlotView& view)
   return labels;
 }
 
-MapAxes EqualAspect(const Limits& xRange, const Limits& yRange, AxisFormat format, int places)
+FieldExtent EqualAspectShown(const FieldExtent& field, const AxisLabels& shown)
 {
-  MapAxes axes{{0, 0, format, places}, {0, 0, format, places}, {}};
-  const std::string txtMedX = AxisLabel(MiddleOf(xRange), axes.X);
-  const std::string txtMedY = AxisLabel(MiddleOf(yRange), axes.Y);
-  const EqualLimits limits = EqualLimitsOf(xRange, yRange, txtMedX, txtMedY);
-  axes.X.Low = limits.X.Minimum;
-  axes.X.High = limits.X.Maximum;
-  axes.Y.Low = limits.Y.Minimum;
-  axes.Y.High = limits.Y.Maximum;
-  axes.Labels = FittedLabels(axes.X, axes.Y);
-  axes.Labels.txtMedX = txtMedX;
-  axes.Labels.txtMedY = txtMedY;
-  return axes;
+  const auto centre = [](const std::string& label, const Limits& range) {
+    return ParseNumber(label).value_or(range.Middle());  // a centre that is not finite has no label
+  };
+  return field.SquareAbout(centre(shown.txtMedX, field.X), centre(shown.txtMedY, field.Y));
 }
 
-MapAxes EqualAspectShown(const Limits& xRange, const Limits& yRange, const AxisLabels& shown)
+MapAxes EqualAspect(const FieldExtent& field, AxisFormat format, int places)
 {
-  const EqualLimits limits = EqualLimitsOf(xRange, yRange, shown.txtMedX, shown.txtMedY);
-  MapAxes axes;
-  axes.X = {limits.X.Minimum, limits.X.Maximum, AxisFormat::Text};
-  axes.Y = {limits.Y.Minimum, limits.Y.Maximum, AxisFormat::Text};
-  axes.Labels = shown;
+  const auto labelOf = [&](const Limits& range) {
+    return AxisLabel(range.Middle(), {range, format, places});
+  };
+  AxisLabels centres;
+  centres.txtMedX = labelOf(field.X);
+  centres.txtMedY = labelOf(field.Y);
+  const FieldExtent limits = EqualAspectShown(field, centres);
+  MapAxes axes{{limits.X, format, places}, {limits.Y, format, places}, {}};
+  axes.Labels = FittedLabels(axes.X, axes.Y);
+  // The middle of limits made about a centre may round to another text than the centre itself.
+  axes.Labels.txtMedX = centres.txtMedX;
+  axes.Labels.txtMedY = centres.txtMedY;
   return axes;
 }
 

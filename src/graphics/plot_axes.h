@@ -1,7 +1,7 @@
 #pragma once
 
 #include "graphics/plot.h"
-#include "survey/statistics.h"
+#include "survey/field_extent.h"
 #include "toolkit/drawing.h"
 
 #include <string>
@@ -72,9 +72,10 @@ struct MapAxes {
 /// `EqualAspect`: the longer side of the field fills its axis; the other axis is widened to the same length
 /// about the rounded centre that its label shows. `format` and `places` are those of the labels. A field
 /// without any extent gets the limits centre - 1 and centre + 1.
-MapAxes EqualAspect(const Limits& xRange, const Limits& yRange, AxisFormat format, int places);
+MapAxes EqualAspect(const FieldExtent& field, AxisFormat format, int places);
 
-/// The same limits for a map that stands on screen: the centre is read back from the labels shown.
-MapAxes EqualAspectShown(const Limits& xRange, const Limits& yRange, const AxisLabels& shown);
+/// The limits of a map that stands on screen: its centre is read back from the labels shown, since nothing
+/// else is left to tell how it was rounded when the map was drawn.
+FieldExtent EqualAspectShown(const FieldExtent& field, const AxisLabels& shown);
 
 }  // namespace veln

@@ -65,11 +65,6 @@ void HidePanels(Plot& plot)
   plot.LegendPanel = false;
 }
 
-PlotAxis AxisOf(const Limits& range, AxisFormat format, int places)
-{
-  return {range.Minimum, range.Maximum, format, places};
-}
-
 std::span<const double> SeriesOf(const SurveyState& state, const std::vector<double>& column)
 {
   return std::span(column).first(std::min(column.size(), static_cast<std::size_t>(state.SurveySize)));

@@ -26,9 +26,6 @@ void LabelAxes(Plot& plot, const PlotAxis& x, const PlotAxis& y);
 /// Hides `Frame1`, `Frame2` and `Frame3`.
 void HidePanels(Plot& plot);
 
-/// An axis with the limits of a series.
-PlotAxis AxisOf(const Limits& range, AxisFormat format, int places = 2);
-
 /// The values of a column that belong to sites of the survey as it stands.
 std::span<const double> SeriesOf(const SurveyState& state, const std::vector<double>& column);
 

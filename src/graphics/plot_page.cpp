@@ -36,6 +36,11 @@ double FittingFont(const std::string& text, double room, double wanted, double c
   return std::min(wanted, largest);
 }
 
+bool IsBlank(const std::string& text)
+{
+  return text.find_first_not_of(' ') == std::string::npos;
+}
+
 /// Moves marks from the fitted plot to where a zoomed box shows them.
 class MarkMover {
  public:
@@ -112,18 +117,15 @@ class PageWriter {
   {
     constexpr double FirstLine = -0.87;
     constexpr double BlockGap = 0.03;
-    double y = PanelLine(FirstLine, "Statistics", true) + BlockGap;
-    for (const auto& block : {std::array{panel.LblT1, panel.Lblm1, panel.Lblv1},
-                              std::array{panel.LblT2, panel.Lblm2, panel.Lblv2},
-                              std::array{panel.LblCorr, panel.Lblr1, panel.Lblr2}}) {
-      bool shown = false;
+    double y = FirstLine;
+    Put({ColumnLeft, y}, "Statistics", {QBColor(0), PanelFont, true, TextAnchor::Start});
+    y += LineStep + BlockGap;
+    for (const auto& block : panel.Blocks()) {
+      const double top = y;
       for (const std::string& line : block) {
-        if (line.find_first_not_of(' ') != std::string::npos) {
-          y = PanelLine(y, line, false);
-          shown = true;
-        }
+        y = PanelLine(y, line);
       }
-      y += shown ? BlockGap : 0;
+      y += y > top ? BlockGap : 0;
     }
   }
 
@@ -135,7 +137,7 @@ class PageWriter {
     constexpr double DotLeft = ColumnLeft + 0.025;
     constexpr double LabelLeft = ColumnLeft + 0.075;
     constexpr double Font = 7;
-    double y = PanelLine(FirstLine, legend.Caption, false) + 2 * EntryGap;
+    double y = PanelLine(FirstLine, legend.Caption) + 2 * EntryGap;
     for (std::size_t i = 0; i < legend.Labels.size(); ++i) {
       page_.PSet({DotLeft, y + LineStep / 2}, {legend.Colours.at(i), DotWidth});
       for (const std::string& line : InTwoLines(legend.Labels.at(i))) {
@@ -164,11 +166,15 @@ class PageWriter {
     }
   }
 
-  double PanelLine(double y, const std::string& text, bool bold)
+  /// Writes a line, unless it is blank, and tells where the next one stands.
+  double PanelLine(double y, const std::string& text)
   {
+    if (IsBlank(text)) {
+      return y;
+    }
     constexpr double Room = 0.5;
-    const double font = FittingFont(text, Room, PanelFont, bold ? BoldWidth : DigitWidth);
-    Put({ColumnLeft, y}, text, {QBColor(0), font, bold, TextAnchor::Start});
+    const double font = FittingFont(text, Room, PanelFont, DigitWidth);
+    Put({ColumnLeft, y}, text, {QBColor(0), font, false, TextAnchor::Start});
     return y + LineStep;
   }
 
@@ -189,10 +195,11 @@ class PageWriter {
 std::string JoinedLines(const PlotStatistics& panel)
 {
   std::string text;
-  for (const std::string& line : {panel.LblT1, panel.Lblm1, panel.Lblv1, panel.LblT2, panel.Lblm2,
-                                  panel.Lblv2, panel.LblCorr, panel.Lblr1, panel.Lblr2}) {
-    if (line.find_first_not_of(' ') != std::string::npos) {
-      text += (text.empty() ? "" : ", ") + line;
+  for (const auto& block : panel.Blocks()) {
+    for (const std::string& line : block) {
+      if (!IsBlank(line)) {
+        text += (text.empty() ? "" : ", ") + line;
+      }
     }
   }
   return text;

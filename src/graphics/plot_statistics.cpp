@@ -2,65 +2,82 @@
 
 #include "toolkit/number_text.h"
 
+#include <cmath>
+
 namespace veln {
 
 namespace {
 
-/// A number in text form through a format, with what stands before it; empty if the text is no number.
-std::string Line(const std::string& prefix, const std::string& text, const char* format)
+/// A number through a format, with what stands before it.
+std::string Line(const std::string& prefix, std::optional<double> value, const char* format)
 {
-  const auto value = ParseNumber(text);
-  return value ? prefix + FormatNumber(*value, format) : "";
+  return value && std::isfinite(*value) ? prefix + FormatNumber(*value, format) : "";
 }
 
-std::string MomentLine(const std::string& prefix, const std::string& text)
+std::string LimitLine(double limit)
 {
-  return Line(prefix, text, "0.000");
+  return std::isfinite(limit) ? FormatNumber(RoundByFormat(limit, "0.00"), "0.000") : "";
 }
 
-std::string CorrelationLine(const std::string& text)
+std::string CorrelationLine(std::optional<double> correlation)
 {
-  return Line("r= ", text, "0.0000");
+  return Line("r= ", correlation, "0.0000");
 }
 
-std::string TestedCorrelationLine(const std::string& text)
+void WriteSecond(PlotStatistics& panel, const SecondBlock& second)
 {
-  return text.size() > 1 ? CorrelationLine(text) : "";
+  if (const auto* moments = std::get_if<MomentBlock>(&second)) {
+    panel.LblT2 = moments->Title;
+    panel.Lblm2 = Line("u= ", moments->Mean, "0.000");
+    panel.Lblv2 = Line("s= ", moments->Std, "0.000");
+  } else if (const auto* limits = std::get_if<Limits>(&second)) {
+    panel.LblT2 = "min and max";
+    panel.Lblm2 = LimitLine(limits->Minimum);
+    panel.Lblv2 = LimitLine(limits->Maximum);
+  }
 }
 
 }  // namespace
 
-void SetStats(Plot& plot, const StatisticsBlock& first, const StatisticsBlock& second,
+MomentBlock MomentsOf(const std::string& title, std::span<const double> series)
+{
+  if (series.size() < 2) {
+    return {title, series.empty() ? std::nullopt : std::optional(series.front()), {}};
+  }
+  const Moments moments = MeanStd(series);
+  return {title, moments.Mean, moments.Std};
+}
+
+std::optional<double> CorrelationOf(std::span<const double> x, std::span<const double> y)
+{
+  return x.size() > 1 ? Correlation(x, y) : std::nullopt;
+}
+
+std::optional<double> UnlessWhole(std::optional<double> correlation)
+{
+  const double rounded = correlation ? RoundByFormat(*correlation, "0.0000") : 0;
+  return rounded == 0 || rounded == 1 ? std::nullopt : correlation;
+}
+
+void SetStats(Plot& plot, const MomentBlock& first, const SecondBlock& second,
               const CorrelationBlock& correlation)
 {
   PlotStatistics panel;
   panel.LblT1 = first.Title;
-  panel.Lblm1 = MomentLine("u= ", first.Mean);
-  panel.Lblv1 = MomentLine("s= ", first.Std);
-  if (second.Title == "hist") {
-    panel.LblT2 = "min and max";
-    panel.Lblm2 = MomentLine("", second.Mean);
-    panel.Lblv2 = MomentLine("", second.Std);
-  } else if (second.Title != "none") {
-    panel.LblT2 = second.Title;
-    panel.Lblm2 = MomentLine("u= ", second.Mean);
-    panel.Lblv2 = MomentLine("s= ", second.Std);
-  }
-  panel.LblCorr = correlation.Title == "none" ? "" : correlation.Title;
-  panel.Lblr1 = TestedCorrelationLine(correlation.First);
-  panel.Lblr2 = TestedCorrelationLine(correlation.Second);
+  panel.Lblm1 = Line("u= ", first.Mean, "0.000");
+  panel.Lblv1 = Line("s= ", first.Std, "0.000");
+  WriteSecond(panel, second);
+  panel.LblCorr = correlation.Title;
+  panel.Lblr1 = CorrelationLine(correlation.R);
   plot.Statistics = panel;
   plot.StatisticsPanel = true;
 }
 
-void SetSubStats(Plot& plot, const StatisticsBlock& second, const std::string& title,
-                 const std::string& correlation)
+void SetSubStats(Plot& plot, const MomentBlock& second, const CorrelationBlock& correlation)
 {
-  plot.Statistics.LblT2 = second.Title;
-  plot.Statistics.Lblm2 = MomentLine("u= ", second.Mean);
-  plot.Statistics.Lblv2 = MomentLine("s= ", second.Std);
-  plot.Statistics.LblCorr = title;
-  plot.Statistics.Lblr2 = CorrelationLine(correlation);
+  WriteSecond(plot.Statistics, second);
+  plot.Statistics.LblCorr = correlation.Title;
+  plot.Statistics.Lblr2 = CorrelationLine(correlation.R);
   plot.StatisticsPanel = true;
 }
 

@@ -1,9 +1,9 @@
 #include "graphics/site_map.h"
 
-#include "survey/statistics.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
 
+#include <algorithm>
 #include <cstddef>
 
 namespace veln {
@@ -13,27 +13,18 @@ namespace {
 /// `NormX` and `NormY`: where sites stand on the unit square.
 class SquarePlaces {
  public:
-  explicit SquarePlaces(const SurveyState& state)
-      : state_(state), extent_(FitSquare({MinMax(state.CoordX), MinMax(state.CoordY)}))
-  {
-  }
+  explicit SquarePlaces(const SurveyState& state) : state_(state), extent_(FitSquare(MeasureField(state))) {}
 
   [[nodiscard]] DrawPoint At(std::size_t i) const
   {
-    return {(state_.CoordX[i] - extent_.X.Minimum) / (extent_.X.Maximum - extent_.X.Minimum),
-            1 - (state_.CoordY[i] - extent_.Y.Minimum) / (extent_.Y.Maximum - extent_.Y.Minimum)};
+    return {(state_.CoordX[i] - extent_.X.Minimum) / extent_.Width(),
+            1 - (state_.CoordY[i] - extent_.Y.Minimum) / extent_.Height()};
   }
 
  private:
   const SurveyState& state_;
   FieldExtent extent_;
 };
-
-Limits About(const Limits& range, double side)
-{
-  const double centre = (range.Minimum + range.Maximum) / 2;
-  return {centre - 0.5 * side, centre + 0.5 * side};
-}
 
 bool IsOffered(const SiteMapForm& form, int number)
 {
@@ -71,19 +62,13 @@ void ShowDesignMap(SiteMapForm& form, const SurveyState& state, int number)
 FieldExtent FitSquare(const FieldExtent& extent)
 {
   constexpr double Margin = 0.1;
-  FieldExtent square = extent;
-  double side = extent.Width() <= extent.Height() ? extent.Height() : extent.Width();
-  if (side == 0) {
-    side = 2;
-    square = {About(extent.X, side), About(extent.Y, side)};
-  } else if (extent.Width() <= extent.Height()) {
-    square.X = About(extent.X, side);
-  } else {
-    square.Y = About(extent.Y, side);
-  }
+  const double longer = std::max(extent.Width(), extent.Height());
+  const double margin = Margin * (longer == 0 ? 2 : longer);
+  FieldExtent square = extent.SquareAbout((extent.X.Minimum + extent.X.Maximum) / 2,
+                                          (extent.Y.Minimum + extent.Y.Maximum) / 2);
   for (Limits* axis : {&square.X, &square.Y}) {
-    axis->Minimum -= Margin * side;
-    axis->Maximum += Margin * side;
+    axis->Minimum -= margin;
+    axis->Maximum += margin;
   }
   return square;
 }

@@ -1,32 +1,18 @@
 #include "graphics/survey_graph.h"
 
+#include "graphics/colour_maps.h"
 #include "graphics/graph_menu.h"
+#include "graphics/histograms.h"
+#include "graphics/line_plots.h"
 #include "graphics/plot_frame.h"
-#include "survey/field_extent.h"
-#include "toolkit/number_text.h"
+#include "graphics/point_plots.h"
 #include "toolkit/refusal.h"
 
 #include <algorithm>
-#include <cmath>
-#include <initializer_list>
-#include <optional>
 
 namespace veln {
 
 namespace {
-
-void Enable(SurveyGraph& graph, std::initializer_list<GraphEntry> entries)
-{
-  for (const GraphEntry entry : entries) {
-    graph.Enabled.set(static_cast<std::size_t>(entry));
-  }
-}
-
-/// The text of a value that passes through a format and is a number again; empty if it is not finite.
-std::string RoundedText(double value, const char* format)
-{
-  return std::isfinite(value) ? GeneralForm(RoundByFormat(value, format)) : "";
-}
 
 bool IsBetween(GraphEntry entry, GraphEntry first, GraphEntry last)
 {
@@ -39,19 +25,19 @@ SurveyGraph LoadSurveyGraph(SurveyState& state)
 {
   using enum GraphEntry;
   SurveyGraph graph;
-  Enable(graph, {mnuGrid, mnuScatter, mnuSs1x, mnuSs1y, mnuLs1, mnuHist, mnuCSG, mnuVs1});
+  graph.Enable({mnuGrid, mnuScatter, mnuSs1x, mnuSs1y, mnuLs1, mnuHist, mnuCSG, mnuVs1});
   PlotRefresh(graph.Shown);
   graph.Shown.Title = MenuPrompt;
   ReComputeXY(graph, state);
   graph.S1Range = MinMax(SeriesOf(state, state.Signal1));
   if (state.SignalCount == 2) {
-    Enable(graph, {mnuSs2x, mnuSs2y, mnuSs1s2});
+    graph.Enable({mnuSs2x, mnuSs2y, mnuSs1s2});
     graph.S2Range = MinMax(SeriesOf(state, state.Signal2));
     graph.SRange = {std::min(graph.S1Range.Minimum, graph.S2Range.Minimum),
                     std::max(graph.S1Range.Maximum, graph.S2Range.Maximum)};
   }
   if (state.DecorrDone) {
-    Enable(graph, {mnuSz1z2});
+    graph.Enable({mnuSz1z2});
   }
   if (HasDesign(state)) {
     state.OverlayReady = true;
@@ -103,20 +89,11 @@ void SelectGraph(SurveyGraph& graph, const SurveyState& state, GraphEntry entry,
   }
 }
 
-DesignFlags ExistingDesigns(const SurveyState& state)
-{
-  DesignFlags designs{};
-  for (int number = 1; number <= std::min(state.DesignCount, MaxDesigns); ++number) {
-    designs.at(static_cast<std::size_t>(number) - 1) = true;
-  }
-  designs.back() = state.ManualDesignDone;
-  return designs;
-}
-
 bool StartTranslation(SurveyGraph& graph, Dialogs& dialogs)
 {
   dialogs.Beep();
-  if (!dialogs.Ask("WARNING!  Any translation(s) you perform will \n"
+  if (!dialogs.Ask(Question::TranslateForGood,
+                   "WARNING!  Any translation(s) you perform will \n"
                    "PERMANENTLY change the X and Y coordinates!\n\n"
                    "Do you still wish to proceed with this option?")) {
     return false;
@@ -125,21 +102,11 @@ bool StartTranslation(SurveyGraph& graph, Dialogs& dialogs)
   return true;
 }
 
-bool NorthArrowOffered(const SurveyState& state)
-{
-  return state.Orientation.AsSurveyed();
-}
-
 void RequireEntry(const SurveyGraph& graph, GraphEntry entry)
 {
   if (!graph.IsEnabled(entry)) {
     throw Refusal("This graph is not available for the survey as it stands.");
   }
-}
-
-void CloseOverlay(SurveyGraph& graph)
-{
-  graph.Enabled.reset(static_cast<std::size_t>(GraphEntry::mnuOSS));
 }
 
 void ClearGraph(SurveyGraph& graph)
@@ -158,23 +125,34 @@ void ShowMapAxes(Plot& plot, const MapAxes& axes)
   plot.Labels = axes.Labels;
 }
 
-std::string CorrelationText(std::span<const double> x, std::span<const double> y)
+CoordinateSource CoordinateOf(const SurveyGraph& graph, const SurveyState& state, FieldAxis axis)
 {
-  const auto r = x.size() > 1 ? Correlation(x, y) : std::nullopt;
-  return r ? RoundedText(*r, "0.0000") : "";
+  const int places = graph.Options.DecimalPlaces;
+  if (axis == FieldAxis::X) {
+    return {SeriesOf(state, state.CoordX), {graph.XRange, AxisFormat::Coordinate, places}, "x", "X"};
+  }
+  return {SeriesOf(state, state.CoordY), {graph.YRange, AxisFormat::Coordinate, places}, "y", "Y"};
 }
 
-MomentTexts MomentsAsText(std::span<const double> series)
+SignalSource SignalOf(const SurveyGraph& graph, const SurveyState& state, int number)
 {
-  constexpr const char* Format = "0.000";
-  if (series.empty()) {
-    return {};
+  const bool first = number == 1;
+  const auto& [label, statistics] = first ? state.Signals.Rows.front() : state.Signals.Rows.back();
+  SignalSource source{number,
+                      SeriesOf(state, first ? state.Signal1 : state.Signal2),
+                      {first ? graph.S1Range : graph.S2Range, AxisFormat::Signal},
+                      first ? "s1" : "s2",
+                      first ? state.SignalLabel.front() : state.SignalLabel.back(),
+                      {label, {}, {}}};
+  if (statistics.Count > 0) {
+    source.Panel = {label, statistics.Mean, statistics.Std};
   }
-  if (series.size() == 1) {
-    return {RoundedText(series.front(), Format), ""};
-  }
-  const Moments moments = MeanStd(series);
-  return {RoundedText(moments.Mean, Format), RoundedText(moments.Std, Format)};
+  return source;
+}
+
+std::string CorrelationTitle(const SignalSource& signal, const CoordinateSource& coordinate)
+{
+  return "Corr(" + signal.Symbol + ", " + coordinate.Symbol + ")";
 }
 
 }  // namespace veln

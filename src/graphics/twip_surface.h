@@ -1,6 +1,5 @@
 #pragma once
 
-#include "graphics/mark_layers.h"
 #include "toolkit/drawing.h"
 
 #include <algorithm>
@@ -9,7 +8,12 @@
 
 namespace veln {
 
-inline constexpr double TwipsPerPixel = 15;
+/// A place in whole twips of a surface; y grows downward.
+struct TwipPoint {
+  std::int32_t X = 0;
+  std::int32_t Y = 0;
+  bool operator==(const TwipPoint&) const = default;
+};
 
 /// The surface of a drawing in twips, whole numbers, as files of shapes and layers want them.
 struct TwipSurface {
@@ -26,7 +30,7 @@ struct TwipSurface {
   }
 
   /// Far places are drawn in to where they are still out of sight.
-  [[nodiscard]] UnitPoint At(DrawPoint point) const
+  [[nodiscard]] TwipPoint At(DrawPoint point) const
   {
     const auto whole = [](double value) {
       return static_cast<std::int32_t>(std::lround(std::isnan(value) ? Far : std::clamp(value, -Far, Far)));

@@ -11,16 +11,21 @@ namespace veln {
 
 namespace {
 
+/// The pixels whose middle lies on the disc, and always a whole pixel.
 QImage DrawDot(const Pen& pen)
 {
-  const int side = std::max(1, static_cast<int>(std::ceil(pen.Width)));
+  const int side = std::max(1, static_cast<int>(std::lround(pen.Width)));
   QImage dot(side, side, QImage::Format_ARGB32_Premultiplied);
   dot.fill(Qt::transparent);
-  QPainter painter(&dot);
-  painter.setRenderHint(QPainter::Antialiasing);
-  painter.setPen(Qt::NoPen);
-  painter.setBrush(QColor(pen.Ink.Red, pen.Ink.Green, pen.Ink.Blue));
-  painter.drawEllipse(QPointF(side / 2.0, side / 2.0), pen.Width / 2, pen.Width / 2);
+  const QColor ink(pen.Ink.Red, pen.Ink.Green, pen.Ink.Blue);
+  const double middle = (side - 1) / 2.0;
+  for (int y = 0; y < side; ++y) {
+    for (int x = 0; x < side; ++x) {
+      if (std::hypot(x - middle, y - middle) <= pen.Width / 2) {
+        dot.setPixelColor(x, y, ink);
+      }
+    }
+  }
   return dot;
 }
 

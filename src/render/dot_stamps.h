@@ -5,14 +5,18 @@
 #include <QImage>
 #include <QPointF>
 
+#include <cstddef>
 #include <vector>
 
 class QPainter;
 
 namespace veln {
 
-/// Draws many round dots fast: a dot is drawn once for each colour and width, antialiased, and stamped at
-/// whole pixels of the device, at most half a pixel from its place. For pictures made of pixels alone.
+/// Draws many round dots fast, for pictures made of pixels alone: a dot is made once for each colour and
+/// width, and stamped at whole pixels of the device, at most half a pixel from its place.
+///
+/// A stamp is of full colour wherever it covers anything, so that a dot of a pixel or two is as dark as its
+/// pen, equal sites look equal, and a dot over a dot leaves no ring of the hidden one.
 class DotStamps {
  public:
   /// Whether whole pixels of the painter's device can be told.

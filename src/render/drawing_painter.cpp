@@ -1,15 +1,33 @@
 #include "render/drawing_painter.h"
 
-#include "render/layered_marks.h"
+#include "graphics/mark_layers.h"
 #include "render/mark_painter.h"
 
 #include <QPaintEngine>
 #include <QPainter>
+#include <QTransform>
 
 #include <algorithm>
 #include <span>
+#include <variant>
 
 namespace veln {
+
+namespace {
+
+/// Turns the painter to the pixels of its device, whatever a pixel of the window measures, so that dots can
+/// be told to stand on whole ones; the frame in these pixels.
+DrawingFrame InDevicePixels(QPainter& painter, const DrawingFrame& frame)
+{
+  const QTransform device = painter.deviceTransform();
+  if (device.type() > QTransform::TxScale) {
+    return frame;
+  }
+  painter.setTransform(device.inverted() * painter.transform());
+  return {device.mapRect(frame.Target), frame.Enlarged * device.m11()};
+}
+
+}  // namespace
 
 QPointF DrawingFrame::Map(const Drawing& drawing, DrawPoint point) const
 {
@@ -29,33 +47,29 @@ void PaintDrawing(QPainter& painter, const Drawing& drawing, const DrawingFrame&
 {
   painter.save();
   painter.setRenderHint(QPainter::Antialiasing);
-  MarkPainter paint(painter, drawing, frame);
+  // Pixels are painted over mark by mark. A page keeps every shape that it is told, so it is told few.
   const bool pixels = painter.paintEngine()->type() == QPaintEngine::Raster;
-  const auto paintMarks = [&](std::size_t from, std::size_t to) {
-    from = std::clamp(from, first, std::max(first, to));
-    const auto marks = std::span(drawing.Marks).subspan(from, std::max(to, from) - from);
-    if (!pixels) {
-      PaintLayered(painter, drawing, marks, paint);
-      return;
-    }
-    for (const DrawMark& mark : marks) {
-      std::visit(paint, mark);
+  const DrawingFrame place = pixels ? InDevicePixels(painter, frame) : frame;
+  MarkPainter paint(painter, drawing, place);
+  const auto paintMarks = [&](std::span<const DrawMark> marks) {
+    if (pixels) {
+      std::ranges::for_each(marks, [&paint](const DrawMark& mark) { std::visit(paint, mark); });
+    } else {
+      std::ranges::for_each(LayersOf(drawing, marks), [&paint](const auto& layer) { paint.Stroke(layer); });
     }
   };
-  const std::size_t count = drawing.Marks.size();
-  first = std::min(first, count);
-  const ClippedMarks clip = drawing.Clip.value_or(ClippedMarks{{}, {}, count, count});
-  const std::size_t begin = std::min(clip.Begin, count);
-  const std::size_t end = std::clamp(clip.End, begin, count);
-  paintMarks(0, begin);
-  if (end > std::max(begin, first)) {
+  const DrawingParts parts = PartsOf(drawing, first);
+  paintMarks(parts.Before);
+  if (!parts.Clipped.empty()) {
     painter.save();
-    painter.setClipRect(QRectF(frame.Map(drawing, clip.First), frame.Map(drawing, clip.Second)).normalized(),
-                        Qt::IntersectClip);
-    paintMarks(begin, end);
+    painter.setClipRect(
+        QRectF(place.Map(drawing, drawing.Clip->First), place.Map(drawing, drawing.Clip->Second))
+            .normalized(),
+        Qt::IntersectClip);
+    paintMarks(parts.Clipped);
     painter.restore();
   }
-  paintMarks(end, count);
+  paintMarks(parts.Behind);
   painter.restore();
 }
 

@@ -3,9 +3,11 @@
 #include <QFont>
 #include <QFontMetricsF>
 #include <QPainter>
+#include <QPainterPath>
 #include <QString>
 
 #include <algorithm>
+#include <variant>
 
 namespace veln {
 
@@ -37,7 +39,7 @@ QColor ToQt(Colour colour)
 }
 
 MarkPainter::MarkPainter(QPainter& painter, const Drawing& drawing, const DrawingFrame& frame)
-    : painter_(painter), drawing_(drawing), frame_(frame), textEnd_(frame.Target.right())
+    : painter_(painter), drawing_(drawing), frame_(frame)
 {
   if (DotStamps::Suit(painter)) {
     stamps_.emplace(painter);
@@ -87,10 +89,31 @@ void MarkPainter::operator()(const TextMark& text) const
   const QPointF top = Map(text.At);
   const double width = metrics.horizontalAdvance(shown);
   double left = top.x() - width * ShareBefore(text.Anchor);
-  if (left < textEnd_) {
-    left = std::min(left, textEnd_ - width - frame_.Enlarged);
+  const double edge = frame_.Target.right();
+  if (left < edge) {  // the number of a site near the edge stays whole
+    left = std::min(left, edge - width - frame_.Enlarged);
   }
   painter_.drawText(QPointF(left, top.y() + metrics.ascent()), shown);
+}
+
+void MarkPainter::Stroke(const MarkLayer& layer)
+{
+  constexpr double Short = 0.001;  // a line too short to be seen has round ends, and is a dot
+  QPainterPath path;
+  for (const DrawMark* mark : layer.Marks) {
+    if (const auto* dot = std::get_if<DotMark>(mark)) {
+      path.moveTo(Map(dot->At));
+      path.lineTo(Map(dot->At) + QPointF(Short, 0));
+    } else if (const auto* line = std::get_if<LineMark>(mark)) {
+      path.moveTo(Map(line->From));
+      path.lineTo(Map(line->To));
+    } else {
+      std::visit(*this, *mark);
+    }
+  }
+  if (!path.isEmpty()) {
+    painter_.strokePath(path, StrokeOf(layer.Stroke));
+  }
 }
 
 QPen MarkPainter::StrokeOf(const Pen& pen) const

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "graphics/mark_layers.h"
 #include "render/dot_stamps.h"
 #include "render/drawing_painter.h"
 #include "toolkit/drawing.h"
@@ -15,7 +16,7 @@ namespace veln {
 
 QColor ToQt(Colour colour);
 
-/// Paints one mark after the other on a device.
+/// Paints marks on a device.
 class MarkPainter {
  public:
   MarkPainter(QPainter& painter, const Drawing& drawing, const DrawingFrame& frame);
@@ -25,18 +26,16 @@ class MarkPainter {
   void operator()(const BoxMark& box) const;
   void operator()(const TextMark& text) const;
 
-  /// Texts that begin left of `x`, in the device's coordinates, end there at the latest: the number of a site
-  /// near the edge stays whole.
-  void EndTextsAt(double x) { textEnd_ = x; }
+  /// Dots and lines of one pen as one path, or the one mark of another kind.
+  void Stroke(const MarkLayer& layer);
 
+ private:
   [[nodiscard]] QPointF Map(DrawPoint point) const { return frame_.Map(drawing_, point); }
   [[nodiscard]] QPen StrokeOf(const Pen& pen) const;
 
- private:
   QPainter& painter_;
   const Drawing& drawing_;
   const DrawingFrame& frame_;
-  double textEnd_;
   std::optional<DotStamps> stamps_;  // where pixels are whole
 };
 

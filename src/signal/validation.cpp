@@ -5,9 +5,9 @@
 #include "survey/field_extent.h"
 #include "survey/row_table.h"
 #include "survey/statistics.h"
-#include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
+#include "workspace/project.h"
 
 #include <algorithm>
 
@@ -24,12 +24,13 @@ void RunEdgeBuffering(SurveyState& state, BufferExtent extent, Dialogs& dialogs,
 
 void WriteTransitionFile(const SurveyState& state, Dialogs& dialogs, Acceptance& acceptance)
 {
-  if (!dialogs.Ask("Would you like an output file of the TA data values created and saved?")) {
+  if (!dialogs.Ask(Question::WriteTransitionFile,
+                   "Would you like an output file of the TA data values created and saved?")) {
     return;
   }
   const auto path = OutputPath(state, "tstd.std");
   try {
-    WriteFiles({{path, ComposeTransitionFile(state)}});
+    WriteFieldFiles(state, {{path, ComposeTransitionFile(state)}});
     acceptance.Files.push_back(path);
   } catch (const Refusal&) {
     dialogs.Warn("Warning: could not create output TSD file...");
@@ -50,7 +51,7 @@ void MakeInfoFile(const SurveyState& state, Dialogs& dialogs, const Clock& clock
 {
   const auto path = OutputPath(state, "info.txt");
   try {
-    WriteFiles({{path, ComposeInfoFile(state, clock)}});
+    WriteFieldFiles(state, {{path, ComposeInfoFile(state, clock)}});
   } catch (const Refusal& refusal) {
     dialogs.Warn("Warning: could not create survey information file...\n" + refusal.Message());
     return;

@@ -6,6 +6,19 @@
 
 namespace veln {
 
+FieldExtent FieldExtent::SquareAbout(double centreX, double centreY) const
+{
+  const double hx = X.Half();
+  const double hy = Y.Half();
+  if (hx == 0 && hy == 0) {
+    return {Limits::Around(centreX, 1), Limits::Around(Y.Middle(), 1)};
+  }
+  if (hx <= hy) {
+    return {Limits::Around(centreX, hy), Y};
+  }
+  return {X, Limits::Around(centreY, hx)};
+}
+
 FieldExtent MeasureField(const SurveyState& state)
 {
   return {MinMax(state.CoordX), MinMax(state.CoordY)};

@@ -9,8 +9,12 @@ namespace veln {
 struct FieldExtent {
   Limits X, Y;
 
-  [[nodiscard]] double Width() const { return X.Maximum - X.Minimum; }
-  [[nodiscard]] double Height() const { return Y.Maximum - Y.Minimum; }
+  [[nodiscard]] double Width() const { return X.Width(); }
+  [[nodiscard]] double Height() const { return Y.Width(); }
+
+  /// The extent made square: the shorter side, x if both are equal, becomes as long as the other about the
+  /// centre given for it. An extent without any size reaches 1 to either side.
+  [[nodiscard]] FieldExtent SquareAbout(double centreX, double centreY) const;
 };
 
 FieldExtent MeasureField(const SurveyState& state);

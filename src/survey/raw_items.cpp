@@ -1,7 +1,5 @@
 #include "survey/raw_items.h"
 
-#include "toolkit/text_lines.h"
-
 #include <algorithm>
 
 namespace veln {
@@ -24,13 +22,27 @@ std::string_view SkipByteOrderMark(std::string_view content)
   return content.starts_with(Mark) ? content.substr(Mark.size()) : content;
 }
 
+void LineCounter::Take(std::string_view block)
+{
+  if (block.empty()) {
+    return;
+  }
+  ends_ -= afterReturn_ && block.front() == '\n' ? 1 : 0;
+  for (std::size_t at = 0; (at = block.find('\n', at)) != std::string_view::npos; ++at) {
+    ++ends_;
+  }
+  for (std::size_t at = 0; (at = block.find('\r', at)) != std::string_view::npos; ++at) {
+    ends_ += block.substr(at + 1, 1) == "\n" ? 0 : 1;
+  }
+  afterReturn_ = block.back() == '\r';
+  open_ = !afterReturn_ && block.back() != '\n';
+}
+
 std::size_t CountLines(std::string_view content)
 {
-  std::size_t lines = 0;
-  for (; !content.empty(); ++lines) {
-    TakeLine(content);
-  }
-  return lines;
+  LineCounter lines;
+  lines.Take(content);
+  return lines.Count();
 }
 
 bool RawItems::AtEnd()

@@ -12,6 +12,18 @@ inline constexpr std::string_view ItemEnds = ", \t\r\n";
 /// The content of a raw file without a leading UTF-8 byte order mark.
 std::string_view SkipByteOrderMark(std::string_view content);
 
+/// Counts the lines of a text that comes in blocks, as `CountLines` does.
+class LineCounter {
+ public:
+  void Take(std::string_view block);
+  [[nodiscard]] std::size_t Count() const { return ends_ + (open_ ? 1 : 0); }
+
+ private:
+  std::size_t ends_ = 0;
+  bool afterReturn_ = false;  // a line feed that comes next belongs to that end
+  bool open_ = false;         // the last line has no end yet
+};
+
 /// The number of lines, whatever they hold. Lines end at CR LF, LF or CR; a last line without an end counts,
 /// the empty rest behind a final line end does not.
 std::size_t CountLines(std::string_view content);

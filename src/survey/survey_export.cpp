@@ -1,9 +1,9 @@
 #include "survey/survey_export.h"
 
-#include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 #include "toolkit/refusal.h"
 #include "toolkit/text_report.h"
+#include "workspace/project.h"
 
 #include <vector>
 
@@ -84,7 +84,7 @@ ExportResult MakeOutF(const SurveyState& state, const ExportProgress& progress)
   ExportResult result;
   result.Path = OutputPath(state, "data.svy");
   try {
-    WriteFiles({{result.Path, ComposeSurveyExport(state, progress)}});
+    WriteFieldFiles(state, {{result.Path, ComposeSurveyExport(state, progress)}});
     result.Written = true;
   } catch (const Refusal& refusal) {
     result.Reason = refusal.Message();

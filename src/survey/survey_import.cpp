@@ -1,8 +1,10 @@
 #include "survey/survey_import.h"
 
+#include "survey/raw_items.h"
 #include "survey/statistics.h"
 #include "toolkit/file_store.h"
 #include "toolkit/refusal.h"
+#include "toolkit/utf8.h"
 
 #include <system_error>
 #include <utility>
@@ -12,6 +14,24 @@ namespace veln {
 namespace {
 
 constexpr const char* Aborted = "\nData import process has been aborted!";
+
+/// A raw survey file, as much of it as can matter: up to the record that is one too many. What has no end, or
+/// none within reason, is no survey.
+std::string ReadRawFile(const std::string& fileName)
+{
+  constexpr std::size_t MostBytes = std::size_t{64} << 20U;
+  std::string content;
+  LineCounter lines;
+  ReadBlocks(fileName, [&](std::string_view block) {
+    content += block;
+    lines.Take(block);
+    if (content.size() > MostBytes && lines.Count() <= MostSites) {
+      throw Refusal(fileName + "\nis no survey: more than 64 MB before record 30,001.");
+    }
+    return lines.Count() <= MostSites;
+  });
+  return content;
+}
 
 /// The statistics panel of a survey must be complete: refuses signals for which it can't be.
 void TestSignals(const RawSurvey& survey, const ImportRequest& request)
@@ -38,6 +58,11 @@ void TestSignals(const RawSurvey& survey, const ImportRequest& request)
 
 }  // namespace
 
+bool IsNoLabelCharacter(char32_t character)
+{
+  return character == U'"' || IsControlCharacter(character);
+}
+
 void ImportSurvey(SurveyState& state, const ImportRequest& request, const ImportProgress& progress)
 {
   state.Menu.Require(MenuEntry::mnuImport, "Importing a survey");
@@ -45,7 +70,7 @@ void ImportSurvey(SurveyState& state, const ImportRequest& request, const Import
   if (!std::filesystem::exists(request.FileName, failure)) {
     throw Refusal("Error! File not found! Please re-enter filename information...");
   }
-  RawSurvey survey = DataLoad(ReadFile(request.FileName), request.Layout, request.Log, progress);
+  RawSurvey survey = DataLoad(ReadRawFile(request.FileName), request.Layout, request.Log, progress);
   TestSignals(survey, request);
 
   state.SurveySize = static_cast<int>(survey.SiteId.size());

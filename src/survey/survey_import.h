@@ -17,9 +17,14 @@ struct ImportRequest {
   bool Log = false;  ///< natural log transform
 };
 
+/// Whether a character can not stand in a signal's label: a control character, or the double quote, which
+/// stands around labels in the survey's export.
+bool IsNoLabelCharacter(char32_t character);
+
 /// Reads a raw survey file into the record, shows its statistics and opens graphics, transformation and
 /// decorrelation. Throws Refusal, with the record as it was, when the import is closed, the file is missing
-/// or faulty, its numbers are too large for its statistics, or a column of a two-signal survey is constant.
+/// or faulty, larger than any survey, its numbers are too large for its statistics, or a column of a
+/// two-signal survey is constant.
 void ImportSurvey(SurveyState& state, const ImportRequest& request, const ImportProgress& progress = {});
 
 }  // namespace veln

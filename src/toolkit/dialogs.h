@@ -25,6 +25,23 @@ struct FileQuestion {
   bool MustExist = true;
 };
 
+/// The questions that are answered Yes or No, by name: who answers need not know their words.
+enum class Question {
+  UseFieldAgain,        ///< a field ID that has files already
+  WriteTransitionFile,  ///< the file of transition values as well
+  ScoreDesigns,         ///< so many designs at one go
+  TranslateForGood,     ///< coordinates in place of those that were measured
+  ReplaceFile,          ///< a file that stands under the name chosen
+  Exit,
+  ExitWithoutDesigns
+};
+
+/// Whether Yes gives something up: files, coordinates, or the work of this session.
+constexpr bool YesLoses(Question question)
+{
+  return question != Question::WriteTransitionFile && question != Question::ScoreDesigns;
+}
+
 /// All that the engine may ask of a person or of the desktop. The window program shows boxes, the command
 /// line prints or answers from its options, tests answer from a script and read what was said.
 class Dialogs {
@@ -39,7 +56,7 @@ class Dialogs {
   /// The same for a failure after which the work goes on: the command line tells it as an error.
   virtual void Warn(const std::string& text) = 0;
   /// A message box with the buttons Yes and No; true for Yes.
-  virtual bool Ask(const std::string& text) = 0;
+  virtual bool Ask(Question question, const std::string& text) = 0;
   /// One system sound.
   virtual void Beep() = 0;
   /// A file-open dialog. Empty when the user cancels or the dialog fails.

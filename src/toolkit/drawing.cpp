@@ -1,5 +1,6 @@
 #include "toolkit/drawing.h"
 
+#include <algorithm>
 #include <array>
 #include <cstddef>
 #include <ostream>
@@ -81,6 +82,19 @@ Colour QBColor(int number)
                                              {255, 255, 0},
                                              {255, 255, 255}}};
   return Table.at(static_cast<std::size_t>(number));
+}
+
+DrawingParts PartsOf(const Drawing& drawing, std::size_t first)
+{
+  const std::span<const DrawMark> marks(drawing.Marks);
+  const std::size_t count = marks.size();
+  const std::size_t begin = drawing.Clip ? std::min(drawing.Clip->Begin, count) : count;
+  const std::size_t end = drawing.Clip ? std::clamp(drawing.Clip->End, begin, count) : count;
+  const auto part = [&](std::size_t from, std::size_t to) {
+    from = std::clamp(first, from, to);
+    return marks.subspan(from, to - from);
+  };
+  return {part(0, begin), part(begin, end), part(end, count)};
 }
 
 std::ostream& operator<<(std::ostream& out, const DrawMark& mark)

@@ -5,11 +5,14 @@
 #include <iosfwd>
 #include <limits>
 #include <optional>
+#include <span>
 #include <string>
 #include <variant>
 #include <vector>
 
 namespace veln {
+
+inline constexpr double TwipsPerPixel = 15;  ///< a twip is the 1440th part of an inch, a pixel the 96th
 
 /// A colour as red, green and blue, 0 to 255.
 struct Colour {
@@ -107,6 +110,14 @@ struct Drawing {
 
   bool operator==(const Drawing&) const = default;
 };
+
+/// The marks before, inside and behind the clipped ones.
+struct DrawingParts {
+  std::span<const DrawMark> Before, Clipped, Behind;
+};
+
+/// The parts of a drawing, each from mark `first` on.
+DrawingParts PartsOf(const Drawing& drawing, std::size_t first = 0);
 
 /// The marks of one kind, in their order.
 template <class Mark>

@@ -64,6 +64,24 @@ bool IsUtf8(std::string_view text)
   return true;
 }
 
+bool IsControlCharacter(char32_t code)
+{
+  return code < U' ' || (code >= 0x7F && code < 0xA0);
+}
+
+bool HasControlCharacter(std::string_view text)
+{
+  constexpr unsigned char BeginsUpperControl = 0xC2;  // and U+00A0 to U+00BF
+  for (std::size_t i = 0; i < text.size(); ++i) {
+    const auto byte = static_cast<unsigned char>(text[i]);
+    const auto next = i + 1 < text.size() ? static_cast<unsigned char>(text[i + 1]) : 0xFFU;
+    if ((byte < 0x80 && IsControlCharacter(byte)) || (byte == BeginsUpperControl && next < 0xA0)) {
+      return true;
+    }
+  }
+  return false;
+}
+
 void AppendUtf8(std::string& text, char32_t code)
 {
   constexpr char32_t TailBits = 6;

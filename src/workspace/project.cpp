@@ -1,5 +1,7 @@
 #include "workspace/project.h"
 
+#include "toolkit/file_set.h"
+#include "toolkit/output_target.h"
 #include "toolkit/refusal.h"
 
 #include <algorithm>
@@ -49,6 +51,16 @@ std::vector<std::string> ListProjects(const fs::path& programDir)
   return projects;
 }
 
+FieldPlace PlaceOfField(const fs::path& programDir, const std::string& project, const std::string& fieldId)
+{
+  return {programDir / "data" / project, project, fieldId};
+}
+
+void WriteFieldFiles(const SurveyState& state, const std::vector<ComposedFile>& files)
+{
+  WriteFileSet(files, {OutputFolder(state), state.FieldId});
+}
+
 std::string FieldInUseQuestion()
 {
   return "Warning!  The 4-character Field ID code you have specified is already in use\n"
@@ -60,8 +72,13 @@ std::string FieldInUseQuestion()
 
 bool IsFieldInUse(const fs::path& programDir, const std::string& project, const std::string& fieldId)
 {
+  const fs::path file = programDir / "data" / project / (fieldId + "info.txt");
   std::error_code failure;
-  return fs::exists(programDir / "data" / project / (fieldId + "info.txt"), failure);
+  const bool exists = fs::exists(file, failure);
+  if (failure) {
+    RefuseFile(file, "looked for", failure.value());
+  }
+  return exists;
 }
 
 bool CheckAlphaCode(const fs::path& programDir, const std::string& project, const std::string& fieldId,
@@ -71,7 +88,7 @@ bool CheckAlphaCode(const fs::path& programDir, const std::string& project, cons
     return true;
   }
   dialogs.Beep();
-  if (dialogs.Ask(FieldInUseQuestion())) {
+  if (dialogs.Ask(Question::UseFieldAgain, FieldInUseQuestion())) {
     return true;
   }
   dialogs.Beep();

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "toolkit/dialogs.h"
+#include "toolkit/field_lock.h"
+#include "toolkit/file_store.h"
 #include "workspace/survey_state.h"
 
 #include <filesystem>
@@ -29,11 +31,20 @@ bool IsFieldId(std::string_view code);
 /// program's warning if `data` can't be listed.
 std::vector<std::string> ListProjects(const std::filesystem::path& programDir);
 
+/// Where a field's output files stand, and who it is for others that want it.
+FieldPlace PlaceOfField(const std::filesystem::path& programDir, const std::string& project,
+                        const std::string& fieldId);
+
+/// Puts output files of the field that belong together in place, all of them or none; what a sudden end
+/// leaves unfinished the field's next owner finishes. Throws Refusal with the file's name and the system's
+/// reason.
+void WriteFieldFiles(const SurveyState& state, const std::vector<ComposedFile>& files);
+
 /// The question of `CheckAlphaCode`, for a field ID that is in use.
 std::string FieldInUseQuestion();
 
 /// Whether the field was worked on before: its information file, which every finished validation writes,
-/// exists.
+/// exists. Throws Refusal with the system's reason if that can't be told.
 bool IsFieldInUse(const std::filesystem::path& programDir, const std::string& project,
                   const std::string& fieldId);
 

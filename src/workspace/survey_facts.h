@@ -16,6 +16,11 @@ enum class ConductivityUnits { MilliSiemens, DeciSiemens };
 struct Limits {
   double Minimum = 0;
   double Maximum = 0;
+
+  [[nodiscard]] double Width() const { return Maximum - Minimum; }
+  [[nodiscard]] double Half() const { return Width() / 2; }
+  [[nodiscard]] double Middle() const { return Half() + Minimum; }
+  static Limits Around(double centre, double half) { return {centre - half, centre + half}; }
   bool operator==(const Limits&) const = default;
 };
 

@@ -14,7 +14,12 @@ bool HasDesign(const SurveyState& state)
 
 std::filesystem::path OutputPath(const SurveyState& state, const std::string& suffix)
 {
-  return state.ProgramDir / "data" / state.ProjectName / OutputName(state, suffix);
+  return OutputFolder(state) / OutputName(state, suffix);
+}
+
+std::filesystem::path OutputFolder(const SurveyState& state)
+{
+  return state.ProgramDir / "data" / state.ProjectName;
 }
 
 std::string OutputName(const SurveyState& state, const std::string& suffix)

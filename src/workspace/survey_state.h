@@ -67,6 +67,9 @@ bool HasDesign(const SurveyState& state);
 /// ("info.txt").
 std::filesystem::path OutputPath(const SurveyState& state, const std::string& suffix);
 
+/// The directory of the field's output files.
+std::filesystem::path OutputFolder(const SurveyState& state);
+
 /// The name of an output file: the field ID and `suffix`.
 std::string OutputName(const SurveyState& state, const std::string& suffix);
 

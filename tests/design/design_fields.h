@@ -1,7 +1,6 @@
 #pragma once
 
 #include "design/design_run.h"
-#include "design/srs_form.h"
 #include "support/surveys.h"
 #include "support/testing.h"
 #include "toolkit/number_text.h"
@@ -82,6 +81,33 @@ inline std::string FixedClock()
   return "2026-11-22 14:05:09";
 }
 
+/// A program directory with the project "farm", and the files that a test expects there.
+class DesignFolder : public testing::Test {
+ protected:
+  DesignFolder() { std::filesystem::create_directories(project_); }
+
+  [[nodiscard]] std::string Written(const std::string& suffix) const
+  {
+    return ReadText(project_ / ("ab12" + suffix));
+  }
+
+  /// Compares output files with the golden ones, in which "{dir}" stands for the program directory.
+  void ExpectGolden(const std::string& name, const std::vector<std::string>& suffixes) const
+  {
+    for (const std::string& suffix : suffixes) {
+      std::string golden = ReadText(std::filesystem::path(VELN_TEST_DATA) / (name + suffix));
+      if (const std::size_t place = golden.find("{dir}"); place != std::string::npos) {
+        golden.replace(place, 5, directory_.Path().string());
+      }
+      EXPECT_EQ(Written(suffix), golden);
+    }
+  }
+
+  TemporaryDirectory directory_;
+  std::filesystem::path project_ = directory_ / "data/farm";
+  ScriptedDialogs dialogs_;
+};
+
 /// Keeps what a run tells as lines of text.
 class RunTranscript : public RunObserver {
  public:
@@ -109,6 +135,10 @@ class RunTranscript : public RunObserver {
     Designs.push_back(std::to_string(k) + " of " + std::to_string(n));
     return k != StopAt;
   }
+  void DesignScored(std::optional<double> score) override
+  {
+    Lines.push_back(score ? "score " + FormatNumber(*score, "0.0###") : "no score");
+  }
 
   std::vector<std::string> Lines;
   std::vector<std::string> Designs;
@@ -117,38 +147,5 @@ class RunTranscript : public RunObserver {
  private:
   static std::string Code(const CandidateSite& site) { return " " + std::to_string(site.SiteId); }
 };
-
-/// The sizes of the design window: the one selected with a star, those that are closed in brackets.
-inline std::string SizesOf(const SrsForm& form)
-{
-  std::string text;
-  for (const DesignSize size : {DesignSize::Limited, DesignSize::Standard, DesignSize::Full}) {
-    const std::string count = std::to_string(SampleSize(size, form.IncludeSupportSites));
-    text += text.empty() ? "" : " ";
-    text += form.OptionEnabled.at(static_cast<std::size_t>(size)) ? count : "(" + count + ")";
-    text += form.Size == size ? "*" : "";
-  }
-  return text;
-}
-
-/// The whole state of the design window as text.
-inline std::string Describe(const SrsForm& form)
-{
-  std::ostringstream text;
-  text << (form.Closed ? "closed" : "open") << (form.Finished ? " and finished" : " and ready") << "; sizes "
-       << SizesOf(form) << "; D " << form.Check1 << ' ' << form.Text1() << "; TA " << form.Check2
-       << form.Check2Enabled << "; parsing " << form.Check3 << form.Check3Enabled << ' '
-       << form.Parsing.ParseDenominator << '/' << form.Parsing.ParseModulus << "; support "
-       << form.IncludeSupportSites << "; reduce " << form.Reduction.mnuSRSReduce;
-  for (const bool step : form.Reduction.Steps) {
-    text << step;
-  }
-  text << form.Reduction.mnuSRSRecover << "; design " << form.LblDN << " of " << form.LblSS << " by"
-       << form.LblSC << "\n"
-       << form.LblMS << "\n"
-       << form.SurveySizeNote << "\n"
-       << form.Command3Caption << form.Command3ToolTip << form.OptCriteria << ' ' << form.LoopCount;
-  return text.str();
-}
 
 }  // namespace veln

@@ -5,28 +5,7 @@
 namespace veln {
 namespace {
 
-namespace fs = std::filesystem;
-
-class DesignFiles : public testing::Test {
- protected:
-  DesignFiles() { fs::create_directories(project_); }
-
-  /// A golden file, with the program's directory put in.
-  [[nodiscard]] std::string Golden(const std::string& name) const
-  {
-    std::string text = ReadText(fs::path(VELN_TEST_DATA) / name);
-    if (const std::size_t place = text.find("{dir}"); place != std::string::npos) {
-      text.replace(place, 5, directory_.Path().string());
-    }
-    return text;
-  }
-
-  [[nodiscard]] std::string Written(const std::string& name) const { return ReadText(project_ / name); }
-
-  TemporaryDirectory directory_;
-  fs::path project_ = directory_ / "data/farm";
-  ScriptedDialogs dialogs_;
-};
+using DesignFiles = DesignFolder;
 
 /// A design of the sites at these places in the survey, point by point.
 Design DesignOf(const SurveyState& state, const DesignSettings& settings,
@@ -34,6 +13,7 @@ Design DesignOf(const SurveyState& state, const DesignSettings& settings,
 {
   Design design;
   design.Settings = settings;
+  design.SignalCount = state.SignalCount;
   design.Levels = InitDLevels(settings.Size, settings.DFactor);
   for (std::size_t k = 0; k < places.size(); ++k) {
     const std::size_t i = places[k];
@@ -47,14 +27,12 @@ TEST_F(DesignFiles, GridOfOneSignalAndSixSites)
   SurveyState state = LineField(directory_.Path());
   RunObserver silent;
   const Design design = MakeDesign(state, LimitedDesign(), silent);
-  const auto paths = SaveSamInfo(state, {design, 6, "(Total Survey Size =  17   Active Survey Size =  17)"},
+  const auto paths = SaveSamInfo(state, {design, "(Total Survey Size =  17   Active Survey Size =  17)"},
                                  dialogs_, FixedClock);
-  EXPECT_EQ(paths, (std::vector<fs::path>{project_ / "ab12rsd1.txt", project_ / "ab12gps1.txt",
-                                          project_ / "ab12xrs1.asc"}));
-  EXPECT_EQ(Written("ab12rsd1.txt"), Golden("grid_one_signal_rsd1.txt"));
-  EXPECT_EQ(Written("ab12gps1.txt"), Golden("grid_one_signal_gps1.txt"));
-  EXPECT_EQ(Written("ab12xrs1.asc"), Golden("grid_one_signal_xrs1.asc"));
-  EXPECT_EQ(state.SiteStatus, (std::vector<std::int16_t>{1, 9, 9, 1, 9, 9, 1, 9, 9, 1, 9, 9, 9, 9, 1, 0, 1}));
+  EXPECT_EQ(paths, (std::vector<std::filesystem::path>{project_ / "ab12rsd1.txt", project_ / "ab12gps1.txt",
+                                                       project_ / "ab12xrs1.asc"}));
+  ExpectGolden("grid_one_signal_", {"rsd1.txt", "gps1.txt", "xrs1.asc"});
+  EXPECT_EQ(state.SiteStatus, (std::vector<std::int16_t>{1, 0, 0, 1, 0, 0, 1, 0, 0, 1, 0, 0, 0, 0, 1, 0, 1}));
   EXPECT_EQ(state.DesignCount, 1);
   EXPECT_EQ(
       dialogs_.Said,
@@ -81,11 +59,8 @@ TEST_F(DesignFiles, TransectOfTwoSignalsAndTwelveSitesInAStratum)
   Design design = DesignOf(state, settings, {3, 0, 13, 1, 12, 2, 11, 4, 10, 5, 7, 8});
   design.OptCriteria = 1.234;
   design.LoopCount = 12;
-  SaveSamInfo(state, {design, 12, "(Total Survey Size =  14   Active Survey Size =  14)"}, dialogs_,
-              FixedClock);
-  EXPECT_EQ(Written("ab12rsd1.txt"), Golden("transect_two_signals_rsd1.txt"));
-  EXPECT_EQ(Written("ab12gps1.txt"), Golden("transect_two_signals_gps1.txt"));
-  EXPECT_EQ(Written("ab12xrs1.asc"), Golden("transect_two_signals_xrs1.asc"));
+  SaveSamInfo(state, {design, "(Total Survey Size =  14   Active Survey Size =  14)"}, dialogs_, FixedClock);
+  ExpectGolden("transect_two_signals_", {"rsd1.txt", "gps1.txt", "xrs1.asc"});
   EXPECT_EQ(state.Designs[0], (DesignFacts{12, 1.234}));
 }
 
@@ -101,9 +76,8 @@ TEST_F(DesignFiles, SecondDesignOfFiveSitesWithoutSupport)
   Design design = DesignOf(state, settings, {4, 1, 2, 7, 8});
   design.OptCriteria = 0.984;
   design.LoopCount = 3;
-  SaveSamInfo(state, {design, 5, "(Total Survey Size =  17   Active Survey Size =  11)"}, dialogs_,
-              FixedClock);
-  EXPECT_EQ(Written("ab12rsd2.txt"), Golden("without_support_rsd2.txt"));
+  SaveSamInfo(state, {design, "(Total Survey Size =  17   Active Survey Size =  11)"}, dialogs_, FixedClock);
+  ExpectGolden("without_support_", {"rsd2.txt"});
   EXPECT_EQ(state.Designs[0], DesignFacts{});
   EXPECT_EQ(state.Designs[1], (DesignFacts{5, 0.984}));
 }
@@ -114,13 +88,13 @@ TEST_F(DesignFiles, EverySiteWithTheCodeJoinsTheDesign)
   state.SiteId[15] = 110;  // at 104.5 m, with z1 of .6; the first 110 stands at 130.5 m
   state.SiteStatus[15] = site_status::Masked;
   const Design design = DesignOf(state, LimitedDesign(), {12, 0, 3, 6, 9, 16});
-  SaveSamInfo(state, {design, 6, ""}, dialogs_, FixedClock);
+  SaveSamInfo(state, {design, ""}, dialogs_, FixedClock);
   EXPECT_EQ(std::ranges::count(state.SiteStatus, 1), 7);
   EXPECT_EQ(state.SiteStatus[15], 1);
-  EXPECT_THAT(Written("ab12rsd1.txt"),
+  EXPECT_THAT(Written("rsd1.txt"),
               HasSubstr("   110        -1.5            -1.5                130.5          7.25 \r\n"
                         "   110        -1.5             .6                 130.5          7.25 \r\n"));
-  EXPECT_THAT(Written("ab12gps1.txt"), EndsWith(" 104.5, 7.25, 110\r\n 145.5, 7.25, 117\r\n"));
+  EXPECT_THAT(Written("gps1.txt"), EndsWith(" 104.5, 7.25, 110\r\n 145.5, 7.25, 117\r\n"));
 }
 
 }  // namespace

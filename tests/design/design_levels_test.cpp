@@ -5,8 +5,6 @@
 namespace veln {
 namespace {
 
-using Lines = std::vector<std::string>;
-
 TEST(DesignLevels, DFactorStretchesTheWholeTableButTheCentreOfTheLimitedSize)
 {
   constexpr double Table[18][3] = {{0.75, 0.75, 0},       {2.5, 1.75, 1.75},      {-2.5, -1.75, -1.75},
@@ -29,46 +27,14 @@ TEST(DesignLevels, DFactorStretchesTheWholeTableButTheCentreOfTheLimitedSize)
   }
 }
 
-TEST(DesignLevels, ListingOfTwoSignalsAtTheLowestDFactor)
+TEST(DesignLevels, SizeStepsDownWithTheAvailableSites)
 {
-  const LevelListing listing{DesignSize::Standard, "0.80", "12", " 2", 2, true, true, true};
-  EXPECT_EQ(ListDLevels(listing, InitDLevels(DesignSize::Standard, 0.8)),
-            (Lines{"",
-                   "    CC-RSD: Order 2",
-                   "    ( 2 signal data columns used )",
-                   "",
-                   "    D-Factor Value:     0.80",
-                   "    Sample Size:        12",
-                   "    Data Parsing / Stratification Invoked",
-                   "",
-                   "    D-Point   Design Level(s)",
-                   "",
-                   "     1         .6        0",
-                   "     2         1.4       1.4",
-                   "     3        -1.4      -1.4",
-                   "     4         1.4      -1.4",
-                   "     5        -1.4       1.4",
-                   "     6         2         0",
-                   "     7        -2         0",
-                   "     8         0         2",
-                   "     9         0        -2",
-                   "     10       -.6        0",
-                   "",
-                   "    + 2 spatial support sites",
-                   "",
-                   "    Note: Transition Analysis invoked",
-                   "    TA adjustments will be applied during ",
-                   "    sample site selection process..."}));
-}
-
-TEST(DesignLevels, ListingOfOneSignalWithoutSupportSites)
-{
-  const LevelListing listing{DesignSize::Limited, "1.05", "5", " 1", 1, false, false, false};
-  EXPECT_EQ(ListDLevels(listing, InitDLevels(DesignSize::Limited, 1.05)),
-            (Lines{"", "    CC-RSD: Order 1", "    ( 1 signal data columns used )", "",
-                   "    D-Factor Value:     1.05", "    Sample Size:        5", "",
-                   "    D-Point   Design Level(s)", "", "     1         0", "     2         2.63",
-                   "     3        -2.63", "     4         1.58", "     5        -1.58", "", ""}));
+  using enum DesignSize;
+  for (const auto& [available, size] : {std::pair{80, Full}, {79, Standard}, {48, Standard}, {47, Limited}}) {
+    EXPECT_EQ(AllowedSize(Full, available), size) << available;
+    EXPECT_EQ(AllowedSize(Standard, available), std::min(size, Standard)) << available;
+    EXPECT_EQ(AllowedSize(Limited, available), Limited);
+  }
 }
 
 }  // namespace

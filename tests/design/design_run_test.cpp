@@ -1,5 +1,6 @@
 #include "design/design_run.h"
 
+#include "design/design_optimisation.h"
 #include "design_fields.h"
 
 namespace veln {
@@ -7,9 +8,10 @@ namespace {
 
 using Lines = std::vector<std::string>;
 
-TEST(DesignRun, TellsEachStepInOrder)
+TEST(DesignRun, TellsEachStepInOrderAndLeavesNoMark)
 {
   SurveyState state = LineField();
+  const SurveyState before = state;
   RunTranscript transcript;
   const Design design = MakeDesign(state, LimitedDesign(), transcript);
   EXPECT_EQ(
@@ -27,51 +29,119 @@ TEST(DesignRun, TellsEachStepInOrder)
              "Algorithm FINISHED:  Final Opt-Criteria =  1"}));
   EXPECT_EQ(design.LoopCount, 2);
   EXPECT_EQ(design.OptCriteria, 1);
+  EXPECT_EQ(state, before);
+
+  CandidateHold hold = HoldCandidates(state, design);  // all but the support site and its neighbour
   EXPECT_EQ(state.SiteStatus, (std::vector<std::int16_t>{9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 9, 0, 0}));
+  hold.reset();
+  EXPECT_EQ(state, before);
+}
+
+/// The points of a design as text: number, site, alternates, target.
+Lines Points(const Design& design)
+{
+  Lines lines;
+  for (const DesignPoint& point : PointsOf(design)) {
+    std::ostringstream line;
+    line << point.Number << (point.Support ? " support " : " ") << point.Site.SiteId;
+    for (const CandidateSite& site : point.Alternates) {
+      line << ' ' << site.SiteId;
+    }
+    for (const double level : point.Target) {
+      line << (&level == point.Target.data() ? ": " : ", ") << level;
+    }
+    lines.push_back(line.str());
+  }
+  return lines;
+}
+
+TEST(DesignRun, PointsKnowAlternatesAndTargets)
+{
+  SurveyState state = LineField();
+  RunObserver silent;
+  Design design = MakeDesign(state, LimitedDesign(), silent);
+  EXPECT_EQ(Points(design), (Lines{"1 115 114 113: 0", "2 101 102 103: 2.5", "3 104 105 106: -2.5",
+                                   "4 107 108 109: 1.5", "5 110 111 112: -1.5", "6 support 117"}));
+  design.SignalCount = 2;
+  design.Sites[5] = {};  // a support site that could not be placed
+  design.Sites[2] = {};
+  EXPECT_EQ(Points(design), (Lines{"1 115 114 113: 0, 0", "2 101 102 103: 1.75, 1.75",
+                                   "4 107 108 109: 1.75, -1.75", "5 110 111 112: -1.75, 1.75"}));
+}
+
+TEST(DesignRun, ObserverPassesOnWhatItDoesNotTake)
+{
+  RunTranscript direct;
+  RunTranscript behind;
+  RunObserver relay(&behind);
+  const CandidateSite site{0, 0, 7, 0};
+  const PointCandidates point = {site, site, site};
+  for (RunObserver* observer : {static_cast<RunObserver*>(&direct), &relay}) {
+    observer->Status("told");
+    observer->MapReady();
+    observer->CandidatesFound(3, point);
+    observer->Started(std::span(&point, 1));
+    observer->Exchanged(site, site);
+    observer->SupportFound(site);
+    observer->DesignScored(1.5);
+  }
+  EXPECT_EQ(behind.Lines, direct.Lines);
+  EXPECT_EQ(direct.Lines.size(), 7U);
+  behind.StopAt = 4;
+  EXPECT_TRUE(relay.NextDesign(3, 9) && RunObserver().NextDesign(4, 9));
+  EXPECT_FALSE(relay.NextDesign(4, 9));
+}
+
+// The fifteenth pick needs a fifth free site: 14 are taken by then, so 19 sites do and 18 do not.
+TEST(DesignRun, StratumWithoutASiteEndsTheRunAndFreesAllCandidates)
+{
+  DesignSettings settings = LimitedDesign();
+  settings.Parsing = {5, 0};
+  RunObserver silent;
+  std::vector<HandSite> sites;
+  for (int i = 0; i < 18; ++i) {
+    sites.push_back({10.0 * i, 3.0 * i * i, 0.25 * i - 2});
+  }
+  SurveyState state = HandField(sites);
+  EXPECT_THAT(WholeRefusalOf(state, [&] { MakeDesign(state, settings, silent); }),
+              StartsWith("There are not enough free sites in this stratum"));
+  sites.push_back({200, 0, 0});
+  state = HandField(sites);
+  EXPECT_TRUE(MakeDesign(state, settings, silent).Sites[0][2].Exists());
 }
 
 /// A whole run written down plainly, every distance computed anew each time it is asked for: the rule that
-/// the engine is held to. Points, ranks and fields count from 1.
+/// the engine is held to.
 class PlainRun {
  public:
   PlainRun(const SurveyState& survey, const DesignSettings& settings) : survey_(survey), settings_(settings)
   {
-    const int n = TargetPoints(settings.Size);
-    std::vector<int> order = {2, 3, 4, 5, 6, 7, 8, 9, 11, 12, 13, 14, 15, 16, 17, 18, 1, 10};
-    std::erase_if(order, [n](int point) { return point > n; });
-    for (const int point : order) {
-      Locate(point);
+    const std::size_t n = static_cast<std::size_t>(TargetPoints(settings.Size));
+    Points.resize(n);
+    for (const std::size_t point : {2, 3, 4, 5, 6, 7, 8, 9, 11, 12, 13, 14, 15, 16, 17, 18, 1, 10}) {
+      if (point <= n) {
+        Locate(Points[point - 1], InitDLevels(settings.Size, settings.DFactor)[point - 1]);
+      }
     }
-    Optimise(n);
-    const int last = settings.IncludeSupportSites ? n + SupportSites(settings.Size) : n;
-    for (int point = n + 1; point <= last; ++point) {
-      Support(point);
-    }
-    for (int point = 1; point <= last; ++point) {
-      Codes.push_back(sites_[point][1][3]);
+    Optimise();
+    for (int k = 0; settings.IncludeSupportSites && k < SupportSites(settings.Size); ++k) {
+      Support();
     }
   }
 
-  std::vector<double> Codes;  ///< of the sites chosen, by point
+  std::vector<std::vector<std::size_t>> Points;  ///< places of the candidates, the chosen site first
   double OptCriteria = 0;
   int LoopCount = 0;
 
  private:
-  void Place(int point, int rank, std::size_t i)
-  {
-    sites_[point][rank] = {0, survey_.CoordX[i], survey_.CoordY[i], static_cast<double>(survey_.SiteId[i])};
-  }
-
-  void Locate(int point)
+  void Locate(std::vector<std::size_t>& ranks, const LevelRow& level)
   {
     const bool two = survey_.SignalCount == 2;
-    const LevelRow level =
-        InitDLevels(settings_.Size, settings_.DFactor).at(static_cast<std::size_t>(point) - 1);
     for (int rank = 1; rank <= 3; ++rank) {
       double best = 1E+24;
-      std::size_t pick = survey_.SiteId.size();
+      ranks.push_back(0);
       int c = 0;
-      for (std::size_t i = 0; i < survey_.SiteId.size(); ++i) {
+      for (std::size_t i = 0; i < status_.size(); ++i) {
         c += status_[i] == 0 ? 1 : 0;
         if (status_[i] != 0 || c % settings_.Parsing.ParseDenominator != settings_.Parsing.ParseModulus) {
           continue;
@@ -79,93 +149,81 @@ class PlainRun {
         const double d1 = survey_.Decorr1[i] - (two ? level[1] : level[0]);
         const double d2 = two ? survey_.Decorr2[i] - level[2] : 0;
         const double s = survey_.TransitionDone && !settings_.IgnoreTA ? survey_.TransitionScore[i] : 0;
-        const double distance = std::sqrt(d1 * d1 + d2 * d2 + s * s);
-        if (distance < best) {
+        if (const double distance = std::sqrt(d1 * d1 + d2 * d2 + s * s); distance < best) {
           best = distance;
-          pick = i;
+          ranks.back() = i;
         }
       }
-      status_.at(pick) = 9;
-      Place(point, rank, pick);
+      status_.at(ranks.back()) = 9;
     }
   }
 
-  [[nodiscard]] double NearestOf(int n1, int n2) const
+  [[nodiscard]] double NearestOf(std::size_t place, std::size_t self) const
   {
     double best = 1E+24;
-    for (int j = 1; j <= n2; ++j) {
-      if (j != n1) {
-        const double dx = sites_[n1][1][1] - sites_[j][1][1];
-        const double dy = sites_[n1][1][2] - sites_[j][1][2];
+    for (std::size_t j = 0; j < Points.size(); ++j) {
+      if (j != self) {
+        const double dx = survey_.CoordX[place] - survey_.CoordX[Points[j][0]];
+        const double dy = survey_.CoordY[place] - survey_.CoordY[Points[j][0]];
         best = std::min(best, std::sqrt(dx * dx + dy * dy));
       }
     }
     return best;
   }
 
-  [[nodiscard]] double LogSeparation(int n) const
+  [[nodiscard]] double LogSeparation() const
   {
     double sum = 0;
-    for (int i = 1; i <= n; ++i) {
-      sum += std::log(NearestOf(i, n) + 0.000001);
+    for (std::size_t i = 0; i < Points.size(); ++i) {
+      sum += std::log(NearestOf(Points[i][0], i) + 0.000001);
     }
-    return sum / n;
+    return sum / static_cast<double>(Points.size());
   }
 
-  void Optimise(int n)
+  void Optimise()
   {
-    const auto [west, east] = std::ranges::minmax(survey_.CoordX);
-    const auto [south, north] = std::ranges::minmax(survey_.CoordY);
-    const double rx = east - west;
-    const double ry = north - south;
-    const double p = (rx <= ry ? ry : rx) / (rx + ry);
-    const double t = (rx + ry) * p / (std::exp(p * std::log(n)) - 0.5);
-    double best = LogSeparation(n);
-    for (int point = 1; point > 0;) {
-      ++LoopCount;
-      point = 0;
-      int rank = 0;
-      for (int i = 1; i <= n; ++i) {
-        for (int j = 2; j <= 3; ++j) {
-          std::swap(sites_[i][1], sites_[i][j]);
-          const double l = LogSeparation(n);
-          if (l > best) {
-            best = l;
-            point = i;
-            rank = j;
+    double best = LogSeparation();
+    for (bool changed = true; changed; ++LoopCount) {
+      changed = false;
+      auto next = Points;
+      for (auto& ranks : Points) {
+        for (std::size_t rank = 1; rank <= 2; ++rank) {
+          std::swap(ranks[0], ranks[rank]);
+          if (const double trial = LogSeparation(); trial > best) {
+            best = trial;
+            next = Points;
+            changed = true;
           }
-          std::swap(sites_[i][1], sites_[i][j]);
+          std::swap(ranks[0], ranks[rank]);
         }
       }
-      if (point > 0) {
-        std::swap(sites_[point][1], sites_[point][rank]);
-      }
+      Points = next;
     }
-    OptCriteria = RoundByFormat(t / std::exp(best), "0.000");
+    OptCriteria = RoundByFormat(TargetSepDist(survey_, static_cast<int>(Points.size())) / std::exp(best),
+                                settings_.Rounding);
   }
 
-  void Support(int point)
+  void Support()
   {
     const double c = std::clamp(125.0 / survey_.SurveySize, 0.25, 1.0);
     double best = 0;
-    std::size_t pick = survey_.SiteId.size();
-    for (std::size_t i = 0; i < survey_.SiteId.size(); ++i) {
-      if (status_[i] == 0 && std::abs(survey_.Decorr1[i]) < c &&
-          (survey_.SignalCount == 1 || std::abs(survey_.Decorr2[i]) < c)) {
-        Place(point, 1, i);
-        if (NearestOf(point, point - 1) > best) {
-          best = NearestOf(point, point - 1);
-          pick = i;
-        }
+    std::vector<std::size_t> pick;
+    for (std::size_t i = 0; i < status_.size(); ++i) {
+      const bool central =
+          std::abs(survey_.Decorr1[i]) < c && (survey_.SignalCount == 1 || std::abs(survey_.Decorr2[i]) < c);
+      if (status_[i] == 0 && central && NearestOf(i, Points.size()) > best) {
+        best = NearestOf(i, Points.size());
+        pick = {i};
       }
     }
-    Place(point, 1, pick);
+    if (!pick.empty()) {
+      Points.push_back(pick);
+    }
   }
 
   const SurveyState& survey_;
   const DesignSettings& settings_;
   std::vector<std::int16_t> status_ = survey_.SiteStatus;
-  std::array<double, 4> sites_[21][4] = {};
 };
 
 // Odd seeds lay an ideal grid, whose equal distances are decided by the order of trials.
@@ -173,8 +231,9 @@ TEST(DesignRun, AgreesWithThePlainRule)
 {
   for (unsigned seed = 1; seed <= 16; ++seed) {
     const int signals = seed % 4 < 2 ? 1 : 2;
-    SurveyState state = AcceptedSurvey(seed % 2 == 1 ? GridSurvey(20, 15, signals, seed)
-                                                     : TransectSurvey(10, 30, signals, seed));
+    const int rows = std::array{5, 15, 26}.at(seed / 2 % 3);  // 100, 300 or 520 sites
+    SurveyState state = AcceptedSurvey(seed % 2 == 1 ? GridSurvey(20, rows, signals, seed)
+                                                     : TransectSurvey(rows, 20, signals, seed));
     SteadyRandom random(seed + 100);
     state.TransitionDone = seed % 3 == 0;
     for (std::size_t i = 0; i < state.SiteId.size(); ++i) {
@@ -188,7 +247,8 @@ TEST(DesignRun, AgreesWithThePlainRule)
       settings.DFactor = 0.8 + 0.025 * seed;
       settings.IgnoreTA = seed % 6 == 0;
       settings.IncludeSupportSites = seed % 5 != 0;
-      settings.Parsing = {1 + static_cast<int>(seed % 3), static_cast<int>(seed % 3)};
+      settings.Parsing.ParseDenominator = 1 + static_cast<int>(seed % 3);
+      settings.Parsing.ParseModulus = static_cast<int>(seed) / 3 % settings.Parsing.ParseDenominator;
       const PlainRun plain(state, settings);
       SurveyState worked = state;
       RunTranscript transcript;
@@ -198,12 +258,14 @@ TEST(DesignRun, AgreesWithThePlainRule)
                                                    ":  Opt-Criteria = " + NumberToString(design.OptCriteria) +
                                                    "  Now searching for 2st SS..."),
           size == DesignSize::Limited ? 0 : 1);
-      std::vector<double> codes;
-      codes.reserve(plain.Codes.size());
-      for (int point = 0; point < design.PointCount(); ++point) {
-        codes.push_back(design.Sites.at(static_cast<std::size_t>(point))[0].SiteId);
+      std::vector<std::vector<std::size_t>> points;
+      for (const DesignPoint& point : PointsOf(design)) {
+        points.push_back({point.Site.Index});
+        for (const CandidateSite& site : point.Alternates) {
+          points.back().push_back(site.Index);
+        }
       }
-      EXPECT_EQ(codes, plain.Codes);
+      EXPECT_EQ(points, plain.Points);
       EXPECT_EQ(design.OptCriteria, plain.OptCriteria);
       EXPECT_EQ(design.LoopCount, plain.LoopCount);
     }

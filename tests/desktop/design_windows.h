@@ -1,6 +1,5 @@
 #pragma once
 
-#include "design/auto_selection.h"
 #include "desktop/design/frm_d_list.h"
 #include "desktop/design/frm_mask.h"
 #include "desktop/design/frm_parse.h"

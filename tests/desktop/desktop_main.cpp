@@ -1,4 +1,5 @@
-#include <QApplication>
+#include "desktop/program/application.h"
+
 #include <gmock/gmock.h>
 
 // One application for all tests of the program, without a screen unless the caller names one.
@@ -8,7 +9,7 @@ int main(int argc, char** argv)
   if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) {
     qputenv("QT_QPA_PLATFORM", "offscreen");
   }
-  QApplication application(argc, argv);
+  const veln::Application application(argc, argv);
   QApplication::setOrganizationName("Norvane Laboratory");
   QApplication::setApplicationName("VELN-QTRD tests");
   QApplication::setQuitOnLastWindowClosed(false);

@@ -12,7 +12,7 @@ namespace {
 /// 1.32; 1.32 itself is not acceptable.
 SelectionScores TwoStrata()
 {
-  SelectionScores scores{2, true, {}};
+  SelectionScores scores{{2, SelectionScope::Limited}, {}};
   scores.optval[0] = {std::nullopt, 1.5, std::nullopt, 1.32, std::nullopt, 1.3199, std::nullopt};
   scores.optval[1] = {std::nullopt, 1.2, std::nullopt, std::nullopt, std::nullopt, 12.3456, std::nullopt};
   return scores;
@@ -87,7 +87,7 @@ TEST_F(FrmSrsOpt, ChosenSettingsGoToTheDesignWindow)
 TEST_F(FrmSrsOpt, WithOneStratumTheDFactorAloneIsSet)
 {
   Open(5, 100);
-  SelectionScores scores{1, false, {}};
+  SelectionScores scores{{1, SelectionScope::Full}, {}};
   scores.optval[0][6] = 1.1;
   ShowScores(scores);
   ClickCell(0, 6);

@@ -1,7 +1,7 @@
 #include "desktop/design/frm_srs.h"
 
-#include "design/design_fields.h"
 #include "desktop/design_windows.h"
+#include "forms/design_forms.h"
 #include "render/drawing_painter.h"
 
 #include <QProgressBar>

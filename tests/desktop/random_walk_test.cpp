@@ -28,7 +28,7 @@ class RandomDialogs : public Dialogs {
   void Warn(const std::string& /*text*/) override {}
   void Beep() override {}
   void Shell(const std::vector<std::string>& /*command*/) override {}
-  bool Ask(const std::string& /*text*/) override { return random_.Next() < 0.5; }
+  bool Ask(Question /*question*/, const std::string& /*text*/) override { return random_.Next() < 0.5; }
   std::optional<std::filesystem::path> ShowOpen(const FileQuestion& question) override
   {
     if (random_.Next() < 0.3) {

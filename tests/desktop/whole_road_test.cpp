@@ -1,8 +1,8 @@
 // From the start of the program to its end, by mouse and keys; the same steps by the engine give the same
 // bytes.
 
-#include "design/srs_form.h"
 #include "desktop/desktop_fixture.h"
+#include "forms/srs_form.h"
 #include "signal/decorrelation.h"
 #include "signal/validation.h"
 #include "support/surveys.h"

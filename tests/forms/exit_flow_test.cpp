@@ -32,6 +32,7 @@ TEST(ExitFlow, ExportsADesignAndAsksWithoutOne)
       const ExitRoute answered = yes ? ExitRoute::Leave : ExitRoute::Stay;
       EXPECT_EQ(RequestExit(state, dialogs), asked ? answered : ExitRoute::Export) << c.What;
       EXPECT_EQ(dialogs.Said, c.Said) << c.What;
+      EXPECT_TRUE(std::ranges::all_of(dialogs.Named, YesLoses));
     }
   }
 }

@@ -43,6 +43,9 @@ TEST(NextStep, CountsFreeSitesForADesignAndAllForTheExport)
   SurveyState state = StateAfter({SurveyImported, SignalsDecorrelated, ConfigurationAccepted}, 100);
   state.SiteStatus[0] = site_status::Masked;
   EXPECT_EQ(NextStep(state), "Next: design a sample from 99 free sites");
+  SurveyState exhausted = state;
+  exhausted.Menu.Apply(DesignsExhausted);
+  EXPECT_EQ(NextStep(exhausted), "The survey is accepted, with 99 free sites: view its output files");
   state.DesignCount = 1;
   state.Menu.Apply(DesignSaved);
   EXPECT_EQ(NextStep(state),

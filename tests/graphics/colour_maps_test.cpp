@@ -12,34 +12,24 @@ SurveyState ThreeClasses()
   return SitesAt({0, 50, 100}, {0, 10, 40}, {8, 10, 12});
 }
 
-Colour ColourOfSite(const Plot& plot, std::size_t site)
+std::vector<Pen> PensOf(const std::vector<Colour>& inks, double width = 4)
 {
-  return DotPens(plot).at(site).Ink;
+  std::vector<Pen> pens;
+  for (const Colour& ink : inks) {
+    pens.push_back({ink, width});
+  }
+  return pens;
 }
 
 TEST(ColourMap, PutsAValueOnALimitIntoTheLowerClass)
 {
-  const Plot plot = PlotOf(ThreeClasses(), mnuVs1);
-  EXPECT_EQ(ColourOfSite(plot, 0), Palette(1)[0]) << "one deviation below";
-  EXPECT_EQ(ColourOfSite(plot, 1), Palette(1)[1]) << "the mean";
-  EXPECT_EQ(ColourOfSite(plot, 2), Palette(1)[2]) << "one deviation above";
-  EXPECT_EQ(DotPens(plot)[0].Width, 4);
-  EXPECT_EQ(plot.Title, "ColorScale Map of EMv Signal Data");
-  EXPECT_EQ(plot.Labels, (AxisLabels{"0", "50", "100", "-30", "20", "70"}));
-  EXPECT_TRUE(plot.LegendPanel);
-  EXPECT_EQ(plot.Legend->Labels[3], "> 1 STD above Signal mean");
-}
-
-TEST(ColourMap, OfTransitionScoresHasFixedLimits)
-{
+  const MapColours& classes = Palette(1);
+  EXPECT_EQ(DotPens(PlotOf(ThreeClasses(), mnuVs1)), PensOf({classes[0], classes[1], classes[2]}))
+      << "one deviation below the mean, the mean, one above";
   SurveyState state = ThreeClasses();
   state.TransitionScore = {0.5, 1, 1.001};
   state.TransitionDone = true;
-  const Plot plot = PlotOf(state, mnuVta);
-  EXPECT_EQ(ColourOfSite(plot, 0), Palette(1)[0]);
-  EXPECT_EQ(ColourOfSite(plot, 1), Palette(1)[2]);
-  EXPECT_EQ(ColourOfSite(plot, 2), Palette(1)[3]);
-  EXPECT_EQ(plot.Legend->Labels[2], "0.75 < z1 TA-STD < 1.0");
+  EXPECT_EQ(DotPens(PlotOf(state, mnuVta)), PensOf({classes[0], classes[2], classes[3]}));
 }
 
 TEST(ColourMap, OfAConstantSignalIsOfTheSecondClass)
@@ -55,13 +45,12 @@ TEST(ColourMap, TakesANewPaletteWithTheNextInitialisation)
   SurveyGraph graph = OpenGraph(state);
   SetCCDDP(graph, {4, 3, 10});
   ShowColourMap(graph, state, mnuVs1);
-  EXPECT_EQ(ColourOfSite(graph.Shown, 0), Palette(1)[0]);
-  EXPECT_EQ(DotPens(graph.Shown)[0].Width, 10);
-  EXPECT_EQ(LoadLegend(graph.Options, MapMeaning::Signal).Caption, "GrayScale Legend");
+  EXPECT_EQ(DotPens(graph.Shown)[0], (Pen{Palette(1)[0], 10}));
+  EXPECT_EQ(graph.Shown.Legend, ComposeLegend({}, 1, MapMeaning::Signal)) << "of the map as drawn";
+  EXPECT_EQ(LoadLegend(graph.Options, MapMeaning::Signal).Caption, "GrayScale Legend") << "as chosen";
   InitCSG(graph, state);
   ShowColourMap(graph, state, mnuVs1);
-  EXPECT_EQ(graph.Shown.Title, "GrayScale Map of EMv Signal Data");
-  EXPECT_EQ(ColourOfSite(graph.Shown, 1), (Colour{128, 128, 128}));
+  EXPECT_EQ(DotPens(graph.Shown)[1].Ink, (Colour{128, 128, 128}));
 }
 
 TEST(ColourBlindSafeColours, StandInForThePaletteAndRedrawTheMapWithItsDesigns)
@@ -79,9 +68,12 @@ TEST(ColourBlindSafeColours, StandInForThePaletteAndRedrawTheMapWithItsDesigns)
               ElementsAre(Pen{safe[0], 4}, Pen{safe[1], 4}, Pen{safe[2], 4}, Pen{QBColor(12), 6}));
   EXPECT_EQ(graph.Shown.Title, "GrayScale Map of EMv Signal Data");
   EXPECT_EQ(LoadLegend(graph.Options, MapMeaning::Signal).Colours, safe);
+  ShowColourMap(graph, state, mnuVs1);
+  SetColourBlindSafe(graph, state, false);
+  EXPECT_EQ(DotPens(graph.Shown).size(), 3) << "a new map has no designs over it";
   ShowSurveyGrid(graph, state);
   const Plot before = graph.Shown;
-  SetColourBlindSafe(graph, state, false);
+  SetColourBlindSafe(graph, state, true);
   EXPECT_EQ(graph.Shown.Picture, before.Picture) << "the survey grid has no map colours";
 }
 
@@ -90,6 +82,8 @@ TEST(DesignOverlay, MarksTheDesignsAskedForOnTheMapShown)
   SurveyState state = ThreeClasses();
   state.SiteStatus = {1, 6, 2};
   SurveyGraph graph = OpenGraph(state);
+  CSOver(graph, state, {true});
+  EXPECT_TRUE(DotPens(graph.Shown).empty()) << "no map to draw on";
   ShowColourMap(graph, state, mnuVs1);
   const Plot map = graph.Shown;
   for (const auto& [symbol, width] : {std::pair{1, 6.0}, std::pair{6, 8.0}, std::pair{10, 10.0}}) {
@@ -101,18 +95,20 @@ TEST(DesignOverlay, MarksTheDesignsAskedForOnTheMapShown)
     EXPECT_EQ(dots[3], (DotMark{map.Sites[0].At, {QBColor(0), width}}));
     EXPECT_EQ(dots[4], (DotMark{map.Sites[1].At, {QBColor(0), width}}));
   }
-  EXPECT_EQ(graph.Shown.Labels, map.Labels);
   EXPECT_FALSE(graph.Shown.LegendPanel);
+  CSOver(graph, state, {false, true});
+  SetColourBlindSafe(graph, state, true);
+  EXPECT_EQ(DotPens(graph.Shown).size(), 6) << "all designs that were laid over the map";
 }
 
 TEST(LegendWindow, HasFourDotsInTheColoursOfTheClasses)
 {
-  const MapLegend legend = ComposeLegend({}, 2, MapMeaning::Transition);
-  EXPECT_EQ(legend.Caption, "ColorScale Legend");
-  const auto dots = Only<DotMark>(LegendDots(legend));
-  ASSERT_EQ(dots.size(), 4);
-  EXPECT_EQ(dots[0], (DotMark{{440, 320}, {{0, 255, 64}, 10}}));
-  EXPECT_EQ(dots[3], (DotMark{{440, 1400}, {{0, 64, 192}, 10}}));
+  const MapColours& classes = Palette(2);
+  std::vector<DotMark> dots;
+  for (std::size_t i = 0; i < classes.size(); ++i) {
+    dots.push_back({{440, 320 + 360.0 * static_cast<double>(i)}, {classes.at(i), 10}});
+  }
+  EXPECT_EQ(Only<DotMark>(LegendDots(ComposeLegend({}, 2, MapMeaning::Transition))), dots);
 }
 
 }  // namespace

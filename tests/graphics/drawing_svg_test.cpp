@@ -12,32 +12,74 @@ Drawing Surface()
   return {0, 0, 100, 100, 100, {}, {}};
 }
 
-TEST(MarkLayers, KeepThePictureOfTheDrawingOrder)
+/// A mark of a random drawing: where it has ink, and how wide.
+struct Inked {
+  std::vector<DrawPoint> Points;
+  Pen Stroke;
+  std::size_t Layer = 0;
+};
+
+bool Overlap(const Inked& a, const Inked& b)
 {
-  struct Dot {
-    UnitPoint At;
-    int Ink, Width;
-    std::size_t Layer;
-  };
+  const double reach = (a.Stroke.Width + b.Stroke.Width) / 2;
+  return std::ranges::any_of(a.Points, [&](DrawPoint p) {
+    return std::ranges::any_of(
+        b.Points, [&](DrawPoint q) { return std::hypot(p.X - q.X, p.Y - q.Y) < reach - 0.1; });  // 1.5 twips
+  });
+}
+
+TEST(Layers, KeepThePictureOfTheMarksOrder)
+{
   SteadyRandom random(11);
-  MarkLayers layers(1500, 1500, 15);
-  std::vector<Dot> dots;
-  std::map<std::size_t, int> inks;
-  for (int i = 0; i < 1500; ++i) {
-    const auto whole = [&random](int below) { return static_cast<int>(random.Next() * below); };
-    Dot dot{{whole(1500), whole(1500)}, 9 + whole(3), 30 + 60 * whole(2), 0};
-    dot.Layer = layers.Place(dot.At, dot.At, QBColor(dot.Ink), dot.Width);
-    EXPECT_EQ(inks.emplace(dot.Layer, dot.Ink).first->second, dot.Ink) << "a layer has one colour";
-    for (const Dot& before : dots) {
-      const long x = before.At.X - dot.At.X;
-      const long y = before.At.Y - dot.At.Y;
-      const long reach = (before.Width + dot.Width) / 2;
-      const bool overlap = x * x + y * y < reach * reach;
-      ASSERT_TRUE(before.Ink == dot.Ink || !overlap || before.Layer < dot.Layer) << "at dot " << i;
+  Drawing drawing = Surface();
+  std::vector<Inked> inked;
+  const auto place = [&random] { return DrawPoint{100 * random.Next(), 100 * random.Next()}; };
+  for (int i = 0; i < 600; ++i) {
+    const int colour = 9 + static_cast<int>(3 * random.Next());
+    const Pen pen{QBColor(colour), 2 + 4 * std::floor(2 * random.Next())};
+    const DrawPoint from = place();
+    const DrawPoint to = i % 4 == 0 ? DrawPoint{from.X + 8 - i % 17, from.Y + 8 - i % 13} : from;
+    if (i % 4 == 0) {
+      drawing.Line(from, to, pen);
+    } else {
+      drawing.PSet(from, pen);
     }
-    dots.push_back(dot);
+    inked.push_back({{}, pen});
+    for (int part = 0; part <= 20; ++part) {
+      inked.back().Points.push_back(
+          {from.X + (to.X - from.X) * part / 20, from.Y + (to.Y - from.Y) * part / 20});
+    }
   }
-  EXPECT_LT(inks.size(), 200) << "dots share their layers";
+  const auto layers = LayersOf(drawing, drawing.Marks);
+  std::size_t held = 0;
+  for (std::size_t layer = 0; layer < layers.size(); ++layer) {
+    for (const DrawMark* mark : layers[layer].Marks) {
+      Inked& own = inked.at(static_cast<std::size_t>(mark - drawing.Marks.data()));
+      EXPECT_EQ(own.Stroke, layers[layer].Stroke);
+      own.Layer = layer;
+      ++held;
+    }
+  }
+  EXPECT_EQ(held, drawing.Marks.size());
+  for (std::size_t i = 0; i < inked.size(); ++i) {
+    for (std::size_t j = 0; j < i; ++j) {
+      ASSERT_TRUE(inked[i].Stroke.Ink == inked[j].Stroke.Ink || inked[j].Layer < inked[i].Layer ||
+                  !Overlap(inked[i], inked[j]))
+          << j << " and " << i;
+    }
+  }
+  EXPECT_LT(layers.size(), 200) << "marks share their layers";
+}
+
+TEST(Layers, LeaveATextBetweenWhatStandsBeforeAndBehindIt)
+{
+  Drawing drawing = Surface();
+  const Pen pen{QBColor(1), 2};
+  drawing.PSet({10, 10}, pen);
+  drawing.Marks.emplace_back(TextMark{{90, 90}, "7", {}});
+  drawing.PSet({10, 50}, pen);
+  EXPECT_EQ(LayersOf(drawing, drawing.Marks).size(), 3);
+  EXPECT_EQ(LayersOf(drawing, std::span(drawing.Marks).subspan(1)).size(), 2);
 }
 
 TEST(SvgText, HoldsANumberAtTheRightEdgeInsideThePicture)
@@ -54,31 +96,20 @@ TEST(SvgText, HoldsANumberAtTheRightEdgeInsideThePicture)
   EXPECT_NE(anchor, std::string::npos);
 }
 
-TEST(SvgText, DrawsALineBetweenWhatLiesUnderAndOverIt)
+TEST(SvgText, TellsPensApart)
 {
   Drawing drawing = Surface();
-  const Pen red{{255, 0, 0}, 2};
-  drawing.PSet({10, 10}, red);
-  drawing.Line({0, 0}, {50, 50}, {{0, 0, 255}, 1});
-  drawing.PSet({40, 40}, red);
-  drawing.PSet({90, 10}, red);
+  const std::vector<double> widths = {0.5, 2, 2.5, 26, 27, 40};
+  for (const double width : widths) {
+    drawing.Line({width, 0}, {width, 100}, {{255, 0, 0}, width});
+  }
   const std::string svg = SvgText(drawing);
-  const std::size_t under = svg.find("M150,150h0");
-  const std::size_t line = svg.find("M0,0L750,750");
-  const std::size_t over = svg.find("M600,600h0");
-  EXPECT_TRUE(under < line && line < over && over != std::string::npos) << svg;
-  EXPECT_LT(svg.find("m1200,0h0"), line) << "a dot clear of the line shares the first path";
-}
-
-TEST(SvgText, LeavesOutADotThatItsHighlightCovers)
-{
-  Drawing drawing = Surface();
-  drawing.PSet({10, 10}, {{0, 0, 128}, 2});
-  drawing.Line({0, 0}, {10, 10}, {{128, 0, 0}, 1});
-  drawing.PSet({10, 10}, {{128, 0, 0}, 4});
-  const std::string svg = SvgText(drawing);
-  EXPECT_THAT(svg, HasSubstr("d=\"M150,150h0\""));
-  EXPECT_EQ(svg.find("h0"), svg.rfind("h0"));
+  std::set<std::string> classes;
+  for (std::size_t at = svg.find("class=\""); at != std::string::npos; at = svg.find("class=\"", at + 1)) {
+    classes.insert(svg.substr(at + 7, svg.find('"', at + 7) - at - 7));
+  }
+  EXPECT_EQ(classes.size(), widths.size());
+  EXPECT_THAT(svg, HasSubstr("{stroke:#ff0000;stroke-width:37.5}"));
 }
 
 TEST(SvgText, IsXmlWithTextAsText)

@@ -5,6 +5,8 @@
 namespace veln {
 namespace {
 
+using enum GraphEntry;
+
 /// A picture of the small example and the file that shows it as it was looked at.
 struct GoldenPicture {
   std::string File;
@@ -97,17 +99,14 @@ TEST_P(GoldenPictures, AreAsTheyWereLookedAt)
 
 INSTANTIATE_TEST_SUITE_P(
     Of, GoldenPictures,
-    testing::Values(Selected("grid", GraphEntry::mnuGrid), Selected("s1_x", GraphEntry::mnuSs1x),
-                    Selected("s1_y", GraphEntry::mnuSs1y), Selected("s2_x", GraphEntry::mnuSs2x),
-                    Selected("s2_y", GraphEntry::mnuSs2y), Selected("s1_s2", GraphEntry::mnuSs1s2),
-                    Selected("rsd", GraphEntry::mnuSz1z2), GoldenPicture{"rsd_one_signal", DrawOneSignalRsd},
-                    Rows("line_s1", GraphEntry::mnuLs1), Rows("line_s2", GraphEntry::mnuLs2),
-                    Rows("line_s1s2", GraphEntry::mnuLs1s2), Selected("hist_s1", GraphEntry::mnuHs1),
-                    Selected("hist_s2", GraphEntry::mnuHs2), Selected("hist_z1", GraphEntry::mnuHz1),
-                    Selected("hist_z2", GraphEntry::mnuHz2), Selected("hist_ta", GraphEntry::mnuHta),
-                    Selected("map_s1", GraphEntry::mnuVs1), Selected("map_s2", GraphEntry::mnuVs2),
-                    Selected("map_z1", GraphEntry::mnuVz1), Selected("map_z2", GraphEntry::mnuVz2),
-                    Selected("map_ta", GraphEntry::mnuVta), GoldenPicture{"map_overlay", DrawOverlay},
+    testing::Values(Selected("grid", mnuGrid), Selected("s1_x", mnuSs1x), Selected("s1_y", mnuSs1y),
+                    Selected("s2_x", mnuSs2x), Selected("s2_y", mnuSs2y), Selected("s1_s2", mnuSs1s2),
+                    Selected("rsd", mnuSz1z2), GoldenPicture{"rsd_one_signal", DrawOneSignalRsd},
+                    Rows("line_s1", mnuLs1), Rows("line_s2", mnuLs2), Rows("line_s1s2", mnuLs1s2),
+                    Selected("hist_s1", mnuHs1), Selected("hist_s2", mnuHs2), Selected("hist_z1", mnuHz1),
+                    Selected("hist_z2", mnuHz2), Selected("hist_ta", mnuHta), Selected("map_s1", mnuVs1),
+                    Selected("map_s2", mnuVs2), Selected("map_z1", mnuVz1), Selected("map_z2", mnuVz2),
+                    Selected("map_ta", mnuVta), GoldenPicture{"map_overlay", DrawOverlay},
                     GoldenPicture{"map_labelled", DrawLabelled}, GoldenPicture{"sites", DrawSites}),
     [](const auto& picture) { return picture.param.File; });
 

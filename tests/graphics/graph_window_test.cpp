@@ -11,7 +11,7 @@ using enum GraphEntry;
 
 TEST(GraphMenu, RefusesAClosedEntryAndKeepsThePlot)
 {
-  SurveyState state = ImportedSurvey(GridSurvey(10, 5, 1));
+  SurveyState state = ImportedSurvey(GridSurvey(5, 4, 1));
   SurveyGraph graph = LoadSurveyGraph(state);
   DitherGenerator dither;
   for (const GraphEntry entry : {mnuSs2x, mnuSz1z2, mnuHz1, mnuVta, mnuLs2}) {
@@ -19,6 +19,45 @@ TEST(GraphMenu, RefusesAClosedEntryAndKeepsThePlot)
               "This graph is not available for the survey as it stands.");
   }
   EXPECT_EQ(graph.Shown.Title, "Please use the Menu Bar to Select a Graph");
+}
+
+TEST(GraphWindow, ShowsThePanelsOfThePlotSelected)
+{
+  SurveyState state = SmallExample();
+  SurveyGraph graph = OpenGraph(state);
+  DitherGenerator dither;
+  const auto open = [&](GraphEntry entry) {
+    SelectGraph(graph, state, entry, dither);
+    const Plot& plot = graph.Shown;
+    return std::string(plot.LinePanel ? "rows " : "") + (plot.StatisticsPanel ? "statistics " : "") +
+           (plot.LegendPanel ? "legend " : "") + (graph.IsEnabled(mnuOSS) ? "overlay" : "");
+  };
+  const std::map<std::string, std::vector<GraphEntry>> shows{
+      {"", {mnuGrid, mnuHta}},
+      {"statistics ", {mnuSs1x, mnuSs2y, mnuSs1s2, mnuSz1z2, mnuHs1, mnuHz2}},
+      {"rows ", {mnuLs1, mnuLs2, mnuLs1s2}},
+      {"legend overlay", {mnuVs1, mnuVs2, mnuVta}}};
+  for (const GraphEntry before : {mnuSs1x, mnuLs1, mnuVs1}) {
+    for (const auto& [panels, entries] : shows) {
+      for (const GraphEntry entry : entries) {
+        open(before);
+        EXPECT_EQ(open(entry), panels) << static_cast<int>(entry);
+      }
+    }
+  }
+}
+
+TEST(GraphWindow, OffersTheOverlayOnceThereIsADesign)
+{
+  for (const auto& [saved, manual] : {std::pair{0, false}, std::pair{1, false}, std::pair{0, true}}) {
+    SurveyState state = ImportedSurvey(GridSurvey(5, 4));
+    state.DesignCount = saved;
+    state.ManualDesignDone = manual;
+    SurveyGraph graph = LoadSurveyGraph(state);
+    ShowColourMap(graph, state, mnuVs1);
+    EXPECT_EQ(graph.IsEnabled(mnuOSS), saved == 1 || manual);
+    EXPECT_EQ(ExistingDesigns(state), (DesignFlags{saved == 1, false, false, false, false, manual}));
+  }
 }
 
 TEST(GraphWindow, DrawsWhatIsLeftAfterADeletionOnTheOldRanges)
@@ -49,24 +88,28 @@ TEST(GraphWindow, DrawsWhatIsLeftAfterADeletionOnTheOldRanges)
 TEST(StatisticsPanel, FollowsTheKindsOfItsArguments)
 {
   Plot plot;
-  SetSubStats(plot, {"EMh", "2", "1"}, "s1 s2 Corr", "0");
+  SetSubStats(plot, {"EMh", 2, 1}, {"s1 s2 Corr", 0});
   EXPECT_EQ(plot.Statistics.Lblr2, "r= 0.0000");
-  SetStats(plot, {"z1", "0", "1"}, {"none", "", ""}, {"Corr", "-1", "1"});
+  SetStats(plot, {"z1", 0, 1}, {}, {"Corr", UnlessWhole(-1)});
   EXPECT_EQ(plot.Statistics,
             (PlotStatistics{"z1", "u= 0.000", "s= 1.000", "", "", "", "Corr", "r= -1.0000", ""}));
-  SetStats(plot, {"EMv", "1.0005", ""}, {"hist", "12.34", "15"}, {"none", "0", "0"});
+  SetStats(plot, {"EMv", 1.0005, {}}, Limits{12.336, 15 / 0.0});
   EXPECT_EQ(plot.Statistics,
-            (PlotStatistics{"EMv", "u= 1.001", "", "min and max", "12.340", "15.000", "", "", ""}));
+            (PlotStatistics{"EMv", "u= 1.001", "", "min and max", "12.340", "", "", "", ""}));
+  for (const double whole : {0.0, 1.0, 0.00004, -0.00004, 0.99996}) {
+    EXPECT_EQ(UnlessWhole(whole), std::nullopt) << whole;
+  }
+  EXPECT_EQ(UnlessWhole(0.00006), 0.00006);
 }
 
 TEST(GraphicsInitialisation, HasNoLinePlotsOnAGrid)
 {
-  SurveyState state = ImportedSurvey(GridSurvey(10, 5));
+  SurveyState state = ImportedSurvey(GridSurvey(5, 4));
   SurveyGraph graph = LoadSurveyGraph(state);
   ScriptedDialogs dialogs;
   IgcForm form = LoadIgcForm(graph, state);
   TickLinePlots(form, true);
-  ChooseDirection(form, false);
+  ChooseDirection(form, FieldAxis::X);
   InitializeGraphics(form, graph, state, dialogs);
   EXPECT_FALSE(form.Option2 || graph.IsEnabled(mnuLine));
   EXPECT_THAT(dialogs.Said, IsEmpty());
@@ -90,7 +133,7 @@ TEST(Translation, AsksClearsThePlotAndTellsWhenItIsDone)
   const Limits x = graph.XRange;
   PctForm form;
   form.Selected = TranslationKind::Swap;
-  ApplyTranslation(form, graph, state, nullptr);
+  ApplyTranslation(form, graph, state, false);
   EXPECT_TRUE(form.Closed);
   EXPECT_EQ(graph.Shown.Title, "Translation Completed...");
   EXPECT_EQ(graph.YRange.Maximum, x.Maximum);
@@ -103,11 +146,9 @@ TEST(Translation, IsRefusedWhileADesignWaits)
 {
   SurveyState state = SmallExample();
   SurveyGraph graph = OpenGraph(state);
-  SrsForm design;
-  design.Finished.emplace();
   PctForm form;
   form.Selected = TranslationKind::ReverseX;
-  EXPECT_EQ(WholeRefusalOf(state, [&] { ApplyTranslation(form, graph, state, &design); }),
+  EXPECT_EQ(WholeRefusalOf(state, [&] { ApplyTranslation(form, graph, state, true); }),
             "Please save or discard the current sample design first.");
   EXPECT_FALSE(form.Closed);
 }
@@ -124,7 +165,7 @@ TEST(SiteText, TellsAllThatIsKnownOfASite)
   EXPECT_EQ(SiteText(state, 17),
             "Site 18\nx 500123.45, y -117.123457\nEMv 45.68, EMh 32.00\n"
             "z1 1.01, z2 0.00\nsample design 1\nrow 2");
-  state = ImportedSurvey(GridSurvey(10, 5, 1));
+  state = ImportedSurvey(GridSurvey(5, 4, 1));
   state.Signal1[0] = 7;
   EXPECT_EQ(SiteText(state, 0), "Site 1\nx 0.0, y 0.0\nEMv 7.00\nfree");
 }

@@ -90,6 +90,9 @@ TEST(MapFurniture, HasARoundLengthAndStandsWhereTheFewestSitesAre)
   const auto lines = Only<LineMark>(drawn);
   EXPECT_NEAR(lines[0].To.X - lines[0].From.X, 20 / 50.0, 1E-12) << "20 of 50 units a half axis";
   EXPECT_THAT(TextsOf(drawn), ElementsAre("20", "N"));
+  drawn.Marks = FurnitureMarks(plot, {-BoxEdge, -BoxEdge, BoxEdge}, {true, false});
+  EXPECT_THAT(TextsOf(drawn), ElementsAre("10")) << "in a box that shows half as much";
+  drawn.Marks = marks;
   const auto backs = Only<BoxMark>(drawn);
   EXPECT_TRUE(backs[0].First.X > 0 && backs[0].First.Y > 0) << "the bar is at the lower right";
   EXPECT_TRUE(backs[1].First.X < 0 && backs[1].First.Y < 0) << "the arrow is at the upper left";

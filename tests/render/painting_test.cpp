@@ -33,71 +33,57 @@ QImage Painted(const Drawing& drawing, int side = Side)
   return image;
 }
 
-int Difference(const QImage& a, const QImage& b)
+/// How many pixels each colour has.
+std::map<QRgb, int> ColoursOf(const QImage& image)
 {
-  int most = 0;
-  for (int y = 0; y < a.height(); ++y) {
-    for (int x = 0; x < a.width(); ++x) {
-      const QColor p = a.pixelColor(x, y);
-      const QColor q = b.pixelColor(x, y);
-      most = std::max({most, std::abs(p.red() - q.red()), std::abs(p.green() - q.green()),
-                       std::abs(p.blue() - q.blue())});
+  std::map<QRgb, int> colours;
+  for (int y = 0; y < image.height(); ++y) {
+    for (int x = 0; x < image.width(); ++x) {
+      ++colours[image.pixel(x, y)];
     }
   }
-  return most;
+  return colours;
 }
 
-/// Dots stamped on a screen of 100 % and 200 % against the toolkit's own discs at the same pixels.
-TEST(Painting, StampedDotsCoverWhatPlainDotsCover)
+/// A surface painted on a screen of 100 %, 125 %, ...
+QImage Shown(const Drawing& drawing, double ratio)
 {
-  for (const int ratio : {1, 2}) {
-    for (const double width : {1.0, 2.0, 4.0, 5.0, 6.0, 10.0}) {
-      Drawing drawing = Sheet();
-      QImage plain = Blank(Side * ratio);
-      QPainter painter(&plain);
-      painter.setRenderHint(QPainter::Antialiasing);
-      painter.setPen(Qt::NoPen);
-      const Colour inks[] = {{255, 192, 0}, {128, 64, 64}};
-      for (int i = 0; i < 9; ++i) {
-        // Whole pixels for even widths, the middle of pixels for odd ones; neighbours overlap.
-        const double shift = static_cast<int>(width * ratio) % 2 == 0 ? 0 : 0.5 / ratio;
-        const DrawPoint at{20 + 3.0 * i + shift, 20 + 4.0 * i + shift};
-        const Colour ink = inks[i % 2];
-        drawing.PSet(at, {ink, width});
-        painter.setBrush(QColor(ink.Red, ink.Green, ink.Blue));
-        painter.drawEllipse(QPointF(at.X * ratio, at.Y * ratio), width * ratio / 2, width * ratio / 2);
-      }
-      painter.end();
-      EXPECT_LE(Difference(Painted(drawing, Side * ratio), plain), 12) << width << " at " << ratio;
-      for (const QImage::Format format : {QImage::Format_RGB32, QImage::Format_ARGB32_Premultiplied}) {
-        QImage screen = Blank(Side * ratio).convertToFormat(format);
-        screen.setDevicePixelRatio(ratio);
-        QPainter stamped(&screen);
-        PaintDrawing(stamped, drawing, FitDrawing(drawing, QRectF(0, 0, Side, Side)));
-        stamped.end();
-        EXPECT_LE(Difference(screen, plain), 25) << width << " at " << ratio;
-      }
-    }
-  }
+  QImage screen = Blank(static_cast<int>(Side * ratio));
+  screen.setDevicePixelRatio(ratio);
+  QPainter painter(&screen);
+  PaintDrawing(painter, drawing, FitDrawing(drawing, QRectF(0, 0, Side, Side)));
+  return screen;
 }
 
-TEST(Painting, StampIsAtMostHalfAPixelFromItsPlace)
+/// Equal sites look equal wherever they lie, small ones are as dark as large ones, and nothing of a dot
+/// shines through the one over it.
+TEST(Painting, DotsAreOfFullColourAndOneShapeAtEveryScale)
 {
-  for (const double at : {50.0, 50.2, 50.49, 50.7, 50.99}) {
-    Drawing drawing = Sheet();
-    drawing.PSet({at, at}, {{0, 0, 0}, 4});
-    const QImage image = Painted(drawing);
-    double weight = 0;
-    double x = 0;
-    for (int column = 0; column < Side; ++column) {
-      for (int row = 0; row < Side; ++row) {
-        const double ink = 255 - image.pixelColor(column, row).red();
-        weight += ink;
-        x += ink * (column + 0.5);
+  constexpr Colour Ink{0, 0, 128};
+  for (const double ratio : {1.0, 1.25, 1.5, 2.0, 3.0}) {
+    for (const double width : {1.0, 1.1, 2.0, 3.0, 4.0, 6.0, 10.0}) {
+      std::set<int> sizes;
+      for (const double at : {50.0, 50.2, 50.49, 50.7, 50.99}) {
+        Drawing drawing = Sheet();
+        drawing.PSet({at, at}, {{255, 0, 0}, width});
+        drawing.PSet({at, at}, {Ink, width});
+        const QImage screen = Shown(drawing, ratio);
+        auto colours = ColoursOf(screen);
+        EXPECT_EQ(colours.size(), 2) << "paper and ink alone, " << width << " at " << ratio;
+        const int size = colours[qRgb(Ink.Red, Ink.Green, Ink.Blue)];
+        sizes.insert(size);
+        const double area = width * ratio * width * ratio * 3.14159 / 4;
+        EXPECT_NEAR(size, area, 2.5 + area / 4) << width << " at " << ratio;
+        double sum = 0;
+        for (int x = 0; x < screen.width(); ++x) {
+          for (int y = 0; y < screen.height(); ++y) {
+            sum += screen.pixelColor(x, y) == Qt::white ? 0 : x + 0.5;
+          }
+        }
+        EXPECT_NEAR(sum / size, at * ratio, 0.51) << "at most half a pixel from its place";
       }
+      EXPECT_EQ(sizes.size(), 1) << width << " at " << ratio;
     }
-    EXPECT_NEAR(x / weight, at, 0.51);
-    EXPECT_NEAR(weight / 255, 3.14159 * 4, 1.0);  // the area of the dot
   }
 }
 
@@ -184,7 +170,9 @@ TEST(Painting, ShapesLieInTheOrderOfTheirMarks)
   QPainter(&played).drawPicture(0, 0, shapes);
   const QImage painted = Painted(drawing);
   for (int i = 0; i < 30; ++i) {
-    EXPECT_EQ(played.pixelColor(10 + 2 * i, 30), painted.pixelColor(10 + 2 * i, 30)) << i;
+    if (i % 2 == 0) {  // the part of a wide dot that the next ones leave
+      EXPECT_EQ(played.pixelColor(7 + 2 * i, 30), painted.pixelColor(7 + 2 * i, 30)) << i;
+    }
     EXPECT_EQ(played.pixelColor(11 + 2 * i, 75), painted.pixelColor(11 + 2 * i, 75)) << i;
   }
 }

@@ -7,6 +7,7 @@
 #include <cerrno>
 #include <fcntl.h>
 #include <filesystem>
+#include <functional>
 #include <pty.h>
 #include <string>
 #include <sys/wait.h>
@@ -68,6 +69,21 @@ inline void SendTo(const std::filesystem::path& file, int descriptor)
 
 }  // namespace process_detail
 
+/// Starts a program in a directory; `prepare` runs in the new process before. It is waited for by `WaitFor`.
+inline pid_t StartProcess(const std::filesystem::path& program, const std::vector<std::string>& arguments,
+                          const std::filesystem::path& directory, const std::function<void()>& prepare)
+{
+  const pid_t child = fork();
+  if (child < 0) {
+    process_detail::Fail("fork");
+  }
+  if (child == 0) {
+    prepare();
+    process_detail::Become(program, arguments, directory);
+  }
+  return child;
+}
+
 /// Runs a program in a directory to its end; its output goes to files, or to `outFile` where one is named.
 inline ProcessResult RunProcess(const std::filesystem::path& program,
                                 const std::vector<std::string>& arguments,
@@ -75,16 +91,10 @@ inline ProcessResult RunProcess(const std::filesystem::path& program,
                                 const std::filesystem::path& outFile = {})
 {
   const TemporaryDirectory printed;
-  const pid_t child = fork();
-  if (child < 0) {
-    process_detail::Fail("fork");
-  }
-  if (child == 0) {
+  const int status = process_detail::WaitFor(StartProcess(program, arguments, directory, [&] {
     process_detail::SendTo(outFile.empty() ? printed.Path() / "out" : outFile, STDOUT_FILENO);
     process_detail::SendTo(printed.Path() / "err", STDERR_FILENO);
-    process_detail::Become(program, arguments, directory);
-  }
-  const int status = process_detail::WaitFor(child);
+  }));
   return {status, outFile.empty() ? ReadText(printed.Path() / "out") : "", ReadText(printed.Path() / "err")};
 }
 

@@ -38,8 +38,9 @@ class ScriptedDialogs : public Dialogs {
   void Warn(const std::string& text) override { Said.push_back("warn: " + text); }
   void Beep() override { Said.emplace_back("beep"); }
 
-  bool Ask(const std::string& text) override
+  bool Ask(Question question, const std::string& text) override
   {
+    Named.push_back(question);
     Said.push_back("ask: " + text);
     if (answers_.empty()) {
       ADD_FAILURE() << "no answer is scripted for: " << text;
@@ -78,6 +79,8 @@ class ScriptedDialogs : public Dialogs {
   /// One entry for each thing said, in order: "inform: ...", "warn: ...", "ask: ...", "beep", "open: ...",
   /// "shell: ...".
   std::vector<std::string> Said;
+  /// The names of the questions asked.
+  std::vector<Question> Named;
   /// What the file dialogs offered.
   std::vector<FileQuestion> Questions;
 

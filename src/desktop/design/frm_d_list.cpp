@@ -1,6 +1,5 @@
 #include "desktop/design/frm_d_list.h"
 
-#include "design/design_levels.h"
 #include "desktop/design/frm_srs.h"
 #include "desktop/parts/controls.h"
 #include "desktop/program/print_page.h"
@@ -17,16 +16,6 @@
 namespace veln {
 
 namespace {
-
-QStringList ListLevels(const SrsForm& form, const SurveyState& state)
-{
-  QStringList lines;
-  const LevelListing listing = form.Listing(state);
-  for (const std::string& line : ListDLevels(listing, InitDLevels(listing.Size, form.Settings().DFactor))) {
-    lines << ToQt(line);
-  }
-  return lines;
-}
 
 /// The listing's height by size, on a screen of this height: the longest listing fits the full one.
 int HeightOf(DesignSize size, const QFontMetrics& metrics, int screen)
@@ -57,8 +46,10 @@ frmDList::frmDList(Program& program, QWidget* parent)
   auto* layout = new QVBoxLayout(this);
   layout->setContentsMargins(0, 0, 0, 0);
   const auto* design = program.Find<frmSRS>();
-  const SrsForm form = design != nullptr ? design->Form() : SrsForm();
-  const QStringList lines = ListLevels(form, program.State);
+  const SrsForm none;
+  const SrsForm& form = design != nullptr ? design->Form() : none;
+  QStringList lines = ToQt(ListDLevels(form.Listing(program.State))).split("\r\n");
+  lines.removeLast();  // behind the last line end
   auto* listing = new QPlainTextEdit(lines.join('\n'), this);
   listing->setObjectName("listing");
   listing->setAccessibleName("Design levels");

@@ -1,10 +1,10 @@
 #include "desktop/design/frm_mask.h"
 
-#include "design/design_table.h"
 #include "desktop/design/site_table.h"
 #include "desktop/parts/controls.h"
 #include "desktop/parts/filtered_edit.h"
 #include "desktop/parts/text_roles.h"
+#include "forms/design_table.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

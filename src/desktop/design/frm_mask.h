@@ -1,7 +1,7 @@
 #pragma once
 
-#include "design/manual_design.h"
 #include "desktop/program/child_window.h"
+#include "forms/mask_form.h"
 
 class QCheckBox;
 class QLabel;

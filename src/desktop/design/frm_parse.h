@@ -1,7 +1,7 @@
 #pragma once
 
-#include "design/survey_reduction.h"
 #include "desktop/program/child_window.h"
+#include "forms/reduction_form.h"
 
 #include <array>
 

@@ -1,7 +1,5 @@
 #include "desktop/design/frm_srs.h"
 
-#include "design/design_table.h"
-#include "design/survey_reduction.h"
 #include "desktop/design/frm_d_list.h"
 #include "desktop/design/frm_parse.h"
 #include "desktop/design/frm_srs_observer.h"
@@ -10,6 +8,8 @@
 #include "desktop/parts/choices.h"
 #include "desktop/parts/controls.h"
 #include "desktop/parts/drawing_view.h"
+#include "forms/design_table.h"
+#include "forms/reduction_form.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -60,7 +60,7 @@ QSize frmSRS::sizeHint() const
 
 void frmSRS::WayOut()
 {
-  CloseSrs(form_, State());
+  CloseSrs(form_);
   CloseCompanions();
   Unload();
   Shared().Changed();
@@ -132,13 +132,13 @@ void frmSRS::Discard()
   Shared().Changed();
 }
 
-void frmSRS::Select(bool limited)
+void frmSRS::Select(SelectionScope scope)
 {
   Program& program = Shared();
   frmSRSObserver observer(*this, progress_);
   std::optional<SelectionScores> scores;
   const bool ended =
-      program.Try([&] { scores = SelectDesigns(form_, State(), limited, program.Ask(), observer); });
+      program.Try([&] { scores = SelectDesigns(form_, State(), scope, program.Ask(), observer); });
   observer.End();
   if (CloseIfAsked()) {
     return;

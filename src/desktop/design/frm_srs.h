@@ -1,9 +1,9 @@
 #pragma once
 
-#include "design/auto_selection.h"
-#include "design/srs_form.h"
 #include "desktop/program/child_window.h"
+#include "forms/auto_selection.h"
 #include "forms/progress_view.h"
+#include "forms/srs_form.h"
 
 #include <QStringList>
 
@@ -63,7 +63,7 @@ class frmSRS : public ChildWindow {
   void Run();
   void Save();
   void Discard();
-  void Select(bool limited);
+  void Select(SelectionScope scope);
   void CloseParsing();
   void CloseCompanions();
   /// Closes the window when the rules on available sites have closed its state.

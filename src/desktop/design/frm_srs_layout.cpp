@@ -1,6 +1,4 @@
 // What frmSRS is made of: its controls and menus, without their rules.
-#include "design/design_table.h"
-#include "design/survey_reduction.h"
 #include "desktop/design/frm_d_list.h"
 #include "desktop/design/frm_parse.h"
 #include "desktop/design/frm_srs.h"
@@ -9,6 +7,8 @@
 #include "desktop/parts/controls.h"
 #include "desktop/parts/drawing_view.h"
 #include "desktop/program/help_request.h"
+#include "forms/design_table.h"
+#include "forms/reduction_form.h"
 
 #include <QAction>
 #include <QCheckBox>
@@ -255,9 +255,6 @@ QLayout* frmSRS::MakeStatus()
 
 void frmSRS::MakeMenus()
 {
-  constexpr std::array<const char*, 4> Names = {"mnuSRSr50", "mnuSRSr67", "mnuSRSr75", "mnuSRSr80"};
-  constexpr std::array<const char*, 4> Captions = {"Reduce by &50%", "Reduce by &67%", "Reduce by &75%",
-                                                   "Reduce by &80%"};
   auto* bar = new QMenuBar(this);
   layout()->setMenuBar(bar);
   QMenu* options = bar->addMenu("&Options");
@@ -267,15 +264,17 @@ void frmSRS::MakeMenus()
   for (const bool limited : {true, false}) {
     QAction* entry = limited ? AddEntry(*automatic, "mnuSRSAutoLimited", "Invoke &limited ADS Alg")
                              : AddEntry(*automatic, "mnuSRSAutoFull", "Invoke &full ADS Alg");
-    connect(entry, &QAction::triggered, this, [this, limited] { Select(limited); });
+    connect(entry, &QAction::triggered, this,
+            [this, limited] { Select(limited ? SelectionScope::Limited : SelectionScope::Full); });
   }
   options->addSeparator();
   QMenu* reduction = AddSubmenu(*options, "mnuSRSReduce", "&Reduce number of available survey sites");
   reduce_ = reduction->menuAction();
-  for (std::size_t i = 0; i < Names.size(); ++i) {
-    reductions_.at(i) = AddEntry(*reduction, Names.at(i), Captions.at(i));
-    connect(reductions_.at(i), &QAction::triggered, this, [this, i] {
-      Act([&](SrsForm& f) { ReduceGridSize(f, State(), static_cast<int>(i) + 2, Shared().Ask()); });
+  for (std::size_t i = 0; i < ReductionSteps.size(); ++i) {
+    const QString share = QString::number(ReductionSteps.at(i).Percent);
+    reductions_.at(i) = AddEntry(*reduction, ("mnuSRSr" + share).toUtf8(), "Reduce by &" + share + "%");
+    connect(reductions_.at(i), &QAction::triggered, this, [this, factor = ReductionSteps.at(i).Factor] {
+      Act([&](SrsForm& f) { ReduceGridSize(f, State(), factor, Shared().Ask()); });
       CloseIfAsked();
       Shared().Changed();
     });

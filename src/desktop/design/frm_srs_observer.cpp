@@ -18,7 +18,8 @@ constexpr int RepaintMilliseconds = 17;  // 60 paints a second
 
 }  // namespace
 
-frmSRSObserver::frmSRSObserver(frmSRS& window, ProgressView& picture) : window_(window), picture_(picture)
+frmSRSObserver::frmSRSObserver(frmSRS& window, ProgressView& picture)
+    : RunObserver(&picture), window_(window), picture_(picture)
 {
   sincePaint_.start();
 }
@@ -63,27 +64,7 @@ void frmSRSObserver::Status(const std::string& text)
 void frmSRSObserver::MapReady()
 {
   Begin();
-  picture_.MapReady();
-}
-
-void frmSRSObserver::CandidatesFound(int point, const PointCandidates& candidates)
-{
-  picture_.CandidatesFound(point, candidates);
-}
-
-void frmSRSObserver::Started(std::span<const PointCandidates> points)
-{
-  picture_.Started(points);
-}
-
-void frmSRSObserver::Exchanged(const CandidateSite& leaving, const CandidateSite& entering)
-{
-  picture_.Exchanged(leaving, entering);
-}
-
-void frmSRSObserver::SupportFound(const CandidateSite& site)
-{
-  picture_.SupportFound(site);
+  RunObserver::MapReady();
 }
 
 bool frmSRSObserver::NextDesign(int k, int n)

@@ -13,8 +13,9 @@ namespace veln {
 class frmSRS;
 class ProgressView;
 
-/// Shows a run in frmSRS as it goes: the picture, the status line, and, for an automatic selection, its
-/// progress. Lets the Stop button, and nothing else, be clicked between the designs of a selection.
+/// Shows a run in frmSRS as it goes: the picture, which takes what is to be drawn, the status line, and, for
+/// an automatic selection, its progress. Lets the Stop button, and nothing else, be clicked between the
+/// designs of a selection.
 class frmSRSObserver : public RunObserver {
  public:
   frmSRSObserver(frmSRS& window, ProgressView& picture);
@@ -27,10 +28,6 @@ class frmSRSObserver : public RunObserver {
 
   void Status(const std::string& text) override;
   void MapReady() override;
-  void CandidatesFound(int point, const PointCandidates& candidates) override;
-  void Started(std::span<const PointCandidates> points) override;
-  void Exchanged(const CandidateSite& leaving, const CandidateSite& entering) override;
-  void SupportFound(const CandidateSite& site) override;
   bool NextDesign(int k, int n) override;
   void DesignScored(std::optional<double> score) override;
 

@@ -5,6 +5,7 @@
 #include "desktop/parts/text_roles.h"
 #include "desktop/parts/text_table.h"
 #include "desktop/program/print_page.h"
+#include "forms/auto_selection.h"
 #include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 
@@ -70,10 +71,10 @@ frmSRSOpt::frmSRSOpt(Program& program, QWidget* parent, const SelectionScores& s
   layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
   layout->setSpacing(LargeGap);
   layout->addWidget(MakeResult(this, "Frame1", "Best Design (based on minimum Optimization Criteria value)",
-                               "lblBest", summary_.lblBest));
+                               "lblBest", BestDesignText(summary_)));
   layout->addWidget(MakeResult(this, "Frame2",
                                "Number of Acceptable Designs (i.e., below 1.3 or within 10% of Best Design)",
-                               "lblAccpt", summary_.lblAccpt));
+                               "lblAccpt", AcceptableText(summary_)));
   QLabel* caption = MakeText(
       this, "Label1", "Optimization Criteria Scores for various Desing Factor / Grid Parsing Combinations");
   caption->setWordWrap(false);
@@ -197,7 +198,8 @@ void frmSRSOpt::MakeMenus()
   done->setObjectName("mnuSRSOReturn");
   layout()->setMenuBar(bar);
   connect(printResults, &QAction::triggered, this, [this] {
-    PrintTable(Shared(), this, windowTitle(), Table(), {ToQt(summary_.lblBest), ToQt(summary_.lblAccpt)});
+    PrintTable(Shared(), this, windowTitle(), Table(),
+               {ToQt(BestDesignText(summary_)), ToQt(AcceptableText(summary_))});
   });
   connect(done, &QAction::triggered, this, [this] { Unload(); });
 }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "design/auto_selection.h"
+#include "design/design_scoring.h"
 #include "desktop/program/child_window.h"
 #include "toolkit/text_table.h"
 

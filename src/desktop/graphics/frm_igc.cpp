@@ -85,7 +85,7 @@ QLayout* frmIGC::MakeDirection()
     line->addSpacing(SmallGap);
     line->addWidget(option);
     connect(option, &QRadioButton::clicked, this, [this, option] {
-      ChooseDirection(form_, option == directions_.front());
+      ChooseDirection(form_, option == directions_.front() ? FieldAxis::Y : FieldAxis::X);
       Mirror();
     });
   }

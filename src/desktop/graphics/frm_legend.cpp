@@ -16,7 +16,6 @@ namespace veln {
 
 namespace {
 
-constexpr double TwipsPerPixel = 15;
 constexpr double FirstDot = 320;  // twips from the top
 constexpr double DotStep = 360;
 constexpr double LabelLeft = 640;

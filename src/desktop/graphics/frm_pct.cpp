@@ -111,7 +111,7 @@ void frmPCT::Apply()
   const auto* design = program.Find<frmSRS>();
   window->Act(
       [&](SurveyGraph& graph) {
-        ApplyTranslation(form_, graph, State(), design == nullptr ? nullptr : &design->Form());
+        ApplyTranslation(form_, graph, State(), design != nullptr && design->Form().Finished);
       },
       frmSvyGraph::Effect::Replaces);
   if (form_.Closed) {

@@ -10,6 +10,7 @@
 #include "desktop/parts/busy_pointer.h"
 #include "desktop/parts/controls.h"
 #include "desktop/program/help_request.h"
+#include "graphics/colour_maps.h"
 #include "graphics/plot_page.h"
 
 #include <QAction>
@@ -33,7 +34,7 @@ void CloseCompanion(Program& program)
 /// Whether two plots have the same values at their ticks.
 bool SameAxes(const std::pair<PlotAxis, PlotAxis>& before, const Plot& now)
 {
-  const auto same = [](const PlotAxis& a, const PlotAxis& b) { return a.Low == b.Low && a.High == b.High; };
+  const auto same = [](const PlotAxis& a, const PlotAxis& b) { return a.Range == b.Range; };
   return same(before.first, now.AxisX) && same(before.second, now.AxisY);
 }
 

@@ -3,6 +3,7 @@
 #include "desktop/graphics/frm_svy_graph.h"
 #include "desktop/graphics/plot_board.h"
 #include "desktop/parts/controls.h"
+#include "graphics/line_plots.h"
 #include "graphics/site_text.h"
 
 #include <QAction>

@@ -3,6 +3,7 @@
 #include "desktop/graphics/frm_svy_graph.h"
 #include "desktop/parts/choices.h"
 #include "desktop/parts/controls.h"
+#include "graphics/colour_maps.h"
 
 #include <QCheckBox>
 #include <QHBoxLayout>

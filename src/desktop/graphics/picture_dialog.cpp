@@ -100,7 +100,8 @@ void PictureDialog::Save()
     *file += ExtensionOf(offered.Format);
     std::error_code ignored;
     if (std::filesystem::exists(*file, ignored) &&
-        !program.Ask().Ask(file->filename().string() + " already exists.\nDo you want to replace it?")) {
+        !program.Ask().Ask(Question::ReplaceFile,
+                           file->filename().string() + " already exists.\nDo you want to replace it?")) {
       return;
     }
   }

@@ -33,11 +33,6 @@ std::string FromQt(const QString& text)
   return text.toStdString();
 }
 
-QString Literal(const QString& text)
-{
-  return QString(text).replace('&', "&&");
-}
-
 QString WithoutKey(const QString& caption)
 {
   return QString(caption).remove('&');

@@ -20,8 +20,6 @@ inline constexpr int WindowMargin = 12;
 QString ToQt(const std::string& text);
 /// Text of a window for the engine.
 std::string FromQt(const QString& text);
-/// A user's text for a caption in which "&" marks a key: shown whole.
-QString Literal(const QString& text);
 /// A caption without the "&" that marks its key.
 QString WithoutKey(const QString& caption);
 

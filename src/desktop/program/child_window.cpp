@@ -3,6 +3,7 @@
 #include "desktop/parts/controls.h"
 #include "desktop/parts/text_roles.h"
 #include "desktop/program/help_request.h"
+#include "toolkit/drawing.h"
 
 #include <QEvent>
 #include <QFontMetrics>
@@ -14,8 +15,6 @@
 namespace veln {
 
 namespace {
-
-constexpr int TwipsPerPixel = 15;
 
 QString GeometryKey(const QWidget& window)
 {

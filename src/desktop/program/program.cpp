@@ -9,6 +9,8 @@
 #include <QPrintDialog>
 #include <QPrinter>
 
+#include <exception>
+#include <new>
 #include <utility>
 
 namespace veln {
@@ -39,13 +41,33 @@ Program::Program(Dialogs& dialogs, Clock clock, QSettings& settings)
 
 bool Program::Try(const std::function<void()>& action)
 {
+  return Tell([this, &action] {
+    SurveyState before = State;
+    try {
+      action();
+    } catch (const Refusal&) {
+      throw;
+    } catch (...) {
+      State = std::move(before);
+      Changed();
+      throw;
+    }
+  });
+}
+
+bool Program::Tell(const std::function<void()>& work)
+{
   try {
-    action();
+    work();
     return true;
   } catch (const Refusal& refusal) {
     dialogs_.Warn(refusal.Message());
-    return false;
+  } catch (const std::bad_alloc&) {
+    dialogs_.Warn("There is not enough memory for this.");
+  } catch (const std::exception& failure) {
+    dialogs_.Warn(std::string("This could not be done: ") + failure.what());
   }
+  return false;
 }
 
 void Program::EndProgram()
@@ -55,6 +77,7 @@ void Program::EndProgram()
       window->Unload();
     }
   }
+  Field = FileLock();
   Quit();
 }
 

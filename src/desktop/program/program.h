@@ -3,6 +3,7 @@
 #include "graphics/dither.h"
 #include "toolkit/clock.h"
 #include "toolkit/dialogs.h"
+#include "toolkit/file_lock.h"
 #include "workspace/survey_state.h"
 
 #include <QPointer>
@@ -37,6 +38,7 @@ class Program {
   Program(Dialogs& dialogs, Clock clock, QSettings& settings);
 
   SurveyState State;
+  FileLock Field;                ///< of the field that the program works on
   DitherGenerator Dither;        ///< of the dither plots: one for a run of the program
   FileSaver ChooseFile;          ///< the platform's save dialog, unless replaced
   PrinterChooser ChoosePrinter;  ///< the platform's print dialog, unless replaced
@@ -50,8 +52,11 @@ class Program {
   void SetMainWindow(QWidget* window) { mainWindow_ = window; }
   [[nodiscard]] QWidget* MainWindow() const { return mainWindow_; }
 
-  /// Runs an action of a window. A refusal is shown here, the one place where it is; false then.
+  /// Runs an action of a window. What stops it is shown here, the one place where it is; false then. A
+  /// refusal has changed nothing; what else stops it, such as too little memory, leaves the record as it was.
   bool Try(const std::function<void()>& action);
+  /// The same for what is no action of its own: the record is left as it stands.
+  bool Tell(const std::function<void()>& work);
 
   /// Ends the program at once, all windows with it and without a question.
   void EndProgram();

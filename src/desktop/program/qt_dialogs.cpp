@@ -41,7 +41,7 @@ void QtDialogs::Warn(const std::string& text)
   ShowBox(QMessageBox::Warning, text, QMessageBox::Ok);
 }
 
-bool QtDialogs::Ask(const std::string& text)
+bool QtDialogs::Ask(Question /*question*/, const std::string& text)
 {
   return ShowBox(QMessageBox::Question, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
 }

@@ -14,7 +14,7 @@ class QtDialogs : public Dialogs {
  public:
   void Inform(const std::string& text) override;
   void Warn(const std::string& text) override;
-  bool Ask(const std::string& text) override;
+  bool Ask(Question question, const std::string& text) override;
   void Beep() override;
   std::optional<std::filesystem::path> ShowOpen(const FileQuestion& question) override;
   void Shell(const std::vector<std::string>& command) override;

@@ -1,6 +1,7 @@
 #include "desktop/survey/frm_structure.h"
 
 #include "desktop/parts/busy_pointer.h"
+#include "desktop/parts/character_filter.h"
 #include "desktop/parts/choices.h"
 #include "desktop/parts/controls.h"
 #include "desktop/parts/text_roles.h"
@@ -201,8 +202,10 @@ QGroupBox* frmStructure::MakeLabelPart()
   label1_ = MakeEdit(frame, "Text1", " enter s1 signal label here ");
   label1_->setMaxLength(LongestLabel);
   label2_ = MakeEdit(frame, "Text2", " enter s2 signal label here ");
-  label1_->setAcceptDrops(false);
-  label2_->setAcceptDrops(false);
+  for (QLineEdit* label : {label1_, label2_}) {
+    label->setAcceptDrops(false);
+    DropCharacters(*label, IsNoLabelCharacter, Shared().Ask());
+  }
   grid->addWidget(MakeFieldLabel(frame, "Label7", "s1 &Label:", label1_), 1, 0);
   grid->addWidget(label1_, 1, 1);
   label2Caption_ = MakeFieldLabel(frame, "Label8", "s2 Lab&el:", label2_);

@@ -1,7 +1,9 @@
 #include "desktop/workspace/frm_project.h"
 
+#include "desktop/parts/character_filter.h"
 #include "desktop/parts/controls.h"
 #include "desktop/parts/filtered_edit.h"
+#include "toolkit/utf8.h"
 #include "workspace/project.h"
 
 #include <QGridLayout>
@@ -121,6 +123,7 @@ QGroupBox* frmProject::MakeIdentity()
   description_->setObjectName("Text2");
   description_->setToolTip(" type in the field description or title here ");
   description_->setMaxLength(LongestDescription);
+  DropCharacters(*description_, IsControlCharacter, Shared().Ask());
   code_ = new FilteredEdit(frame, [this](const Keystroke& key) {
     const bool passes = KeyInFieldId(form_, key, Shared().Ask());
     MirrorFieldId();
@@ -149,7 +152,7 @@ void frmProject::Accept()
 {
   Program& program = Shared();
   bool accepted = false;
-  program.Try([&] { accepted = AcceptProjectForm(form_, State(), program.Ask()); });
+  program.Try([&] { accepted = AcceptProjectForm(form_, State(), program.Field, program.Ask()); });
   if (accepted) {
     Unload();
     program.Changed();
