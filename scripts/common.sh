@@ -1,7 +1,8 @@
 # Sourced by run, test, lint and bench, which set `root` to the project's folder.
 
 # What every build needs, and what the desktop program needs besides: a new library is one more word here.
-build_packages=(g++ cmake ninja-build ccache libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev)
+build_packages=(g++ cmake ninja-build ccache libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev
+    libgeographiclib-dev)
 desktop_packages=(qt6-base-dev)
 
 # The compiler cache may look things up for sources with precompiled headers too, and takes the list of headers from

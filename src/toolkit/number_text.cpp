@@ -218,6 +218,19 @@ double RoundByFormat(double value, std::string_view pattern)
   return ParseNumber(FormatNumber(value, pattern)).value_or(value);
 }
 
+std::string ShortestForm(double value)
+{
+  constexpr double LeastPlain = 1E-5;
+  constexpr double MostPlain = 1E+15;
+  constexpr std::size_t Longest = 32;
+  std::array<char, Longest> text{};
+  const double size = std::abs(value);
+  const bool plain = size == 0 || (size >= LeastPlain && size < MostPlain);
+  const auto format = plain ? std::chars_format::fixed : std::chars_format::scientific;
+  const auto end = std::to_chars(text.data(), text.data() + text.size(), value == 0 ? 0 : value, format);
+  return {text.data(), end.ptr};
+}
+
 std::optional<double> ParseNumber(std::string_view text)
 {
   const bool negative = !text.empty() && text[0] == '-';

@@ -30,6 +30,10 @@ std::string FormatNumber(double value, std::string_view pattern);
 /// The value that `FormatNumber` shows, as a double again: the pattern only bounds its decimals.
 double RoundByFormat(double value, std::string_view pattern);
 
+/// The shortest text that `ParseNumber` reads back as the same double (".5" stands as "0.5"): plain decimals
+/// from 1E-5 to below 1E+15, otherwise the form "3e-07". The value must be finite. A zero has no minus sign.
+std::string ShortestForm(double value);
+
 /// Reads one number: optional sign, digits with an optional point, optional exponent with E or e, nothing
 /// else. Text beyond the doubles (1E999) is not a number; text below them (1E-999) is 0.
 std::optional<double> ParseNumber(std::string_view text);

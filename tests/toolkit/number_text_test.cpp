@@ -82,6 +82,22 @@ TEST(NumberText, EveryInt16InThousandthsRoundsAsInWholeNumbers)
   }
 }
 
+TEST(NumberText, ShortestFormReadsBackAsTheSameDouble)
+{
+  for (const auto& [value, text] :
+       std::vector<std::pair<double, std::string>>{{0.5, "0.5"},
+                                                   {-0.0, "0"},
+                                                   {44.62, "44.62"},
+                                                   {100000, "100000"},
+                                                   {0.1 + 0.2, "0.30000000000000004"},
+                                                   {-1E-5, "-0.00001"},
+                                                   {3E-7, "3e-07"},
+                                                   {1E15, "1e+15"}}) {
+    EXPECT_EQ(ShortestForm(value), text);
+    EXPECT_EQ(ParseNumber(text), value);
+  }
+}
+
 TEST(NumberText, GeneralFormHasFifteenDigitsAndPlainDecimalsFifteenPlaces)
 {
   for (const Case& number : {Case{0.0, "0"},
