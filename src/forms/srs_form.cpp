@@ -17,13 +17,6 @@ bool& Enabled(SrsForm& form, DesignSize size)
   return form.OptionEnabled.at(static_cast<std::size_t>(size));
 }
 
-/// Selecting a size, by hand or by a rule: the sample size shown follows.
-void SelectSize(SrsForm& form, DesignSize size)
-{
-  form.Size = size;
-  form.LblSS = GeneralForm(SampleSize(size, form.IncludeSupportSites));
-}
-
 /// Back to Ready: nothing is left of the finished design, nor of its stratum.
 void EndDesign(SrsForm& form, SurveyState& state, Dialogs& dialogs)
 {
@@ -55,6 +48,11 @@ std::string SrsForm::Text1() const
   return FormatNumber(Settings().DFactor, "0.00");
 }
 
+std::string SrsForm::LblSS() const
+{
+  return GeneralForm(SampleSize(Size, IncludeSupportSites));
+}
+
 std::string SrsForm::OptionCaption(DesignSize size) const
 {
   constexpr std::array<const char*, 3> Kinds = {" (limited design)", " (standard design)", " (full design)"};
@@ -76,7 +74,6 @@ SrsForm OpenSrs(SurveyState& state, Dialogs& dialogs)
 {
   state.Menu.Require(MenuEntry::mnuSRS, "Sample design");
   SrsForm form;
-  SelectSize(form, DesignSize::Standard);
   InitPossSP(form, state, DetermineAvSites(state), dialogs);
   form.LblSC = NumberToString(state.SignalCount);
   form.LblDN = GeneralForm(state.DesignCount + 1);
@@ -94,7 +91,7 @@ void ChooseSize(SrsForm& form, const SurveyState& state, DesignSize size)
                   " available survey sites, but there are only" + NumberToString(DetermineAvSites(state)) +
                   ".");
   }
-  SelectSize(form, size);
+  form.Size = size;
 }
 
 void AdjustDFactor(SrsForm& form, bool on)
@@ -143,7 +140,6 @@ void IncludeSupport(SrsForm& form, bool include, Dialogs& dialogs)
 {
   RequireReady(form);
   form.IncludeSupportSites = include;
-  SelectSize(form, form.Size);
   dialogs.Inform(include ? "Support sites will be included in all sample designs."
                          : "Support sites will be excluded from all sample designs.");
 }
@@ -208,7 +204,7 @@ void InitPossSP(SrsForm& form, SurveyState& state, int available, Dialogs& dialo
       Enabled(form, size) = false;  // for as long as the window is open
     }
   }
-  SelectSize(form, AllowedSize(form.Size, available));
+  form.Size = AllowedSize(form.Size, available);
   if (available < FewestAvailable) {
     dialogs.Inform(TooFewSites);
     state.Menu.Apply(WorkflowEvent::DesignsExhausted);

@@ -49,7 +49,7 @@ struct SrsForm {
   Stratum Parsing;
   bool IncludeSupportSites = true;
   ReductionMenu Reduction;
-  std::string LblDN, LblSS, LblSC, LblMS, SurveySizeNote;
+  std::string LblDN, LblSC, LblMS, SurveySizeNote;
   std::string Command3Caption = "Cancel";
   std::string Command3ToolTip = " exit without invoking SRSS algorithm ";
   double OptCriteria = 0;  ///< of the last single run
@@ -57,6 +57,8 @@ struct SrsForm {
 
   /// The D-factor as shown, "0.80" to "1.20".
   [[nodiscard]] std::string Text1() const;
+  /// The sample size of the next design.
+  [[nodiscard]] std::string LblSS() const;
   /// The caption of a size option, by the support site setting.
   [[nodiscard]] std::string OptionCaption(DesignSize size) const;
   /// What a run takes from the window.

@@ -30,7 +30,7 @@ inline std::string Describe(const SrsForm& form)
   for (const bool step : form.Reduction.Steps) {
     text << step;
   }
-  text << form.Reduction.mnuSRSRecover << "; design " << form.LblDN << " of " << form.LblSS << " by"
+  text << form.Reduction.mnuSRSRecover << "; design " << form.LblDN << " of " << form.LblSS() << " by"
        << form.LblSC << "\n"
        << form.LblMS << "\n"
        << form.SurveySizeNote << "\n"

@@ -62,16 +62,16 @@ TEST_F(SrsFormTest, SelectionMovesDownWithTheSitesAndNothingOpensAgain)
   SurveyState state = Survey(100);
   SrsForm form = OpenSrs(state, dialogs_);
   ChooseSize(form, state, DesignSize::Full);
-  EXPECT_EQ(form.LblSS, "20");
+  EXPECT_EQ(form.LblSS(), "20");
   IncludeSupport(form, false, dialogs_);
   InitPossSP(form, state, 79, dialogs_);
-  EXPECT_EQ(SizesOf(form) + " " + form.LblSS, "5 10* (18) 10");
+  EXPECT_EQ(SizesOf(form) + " " + form.LblSS(), "5 10* (18) 10");
   InitPossSP(form, state, 47, dialogs_);
   InitPossSP(form, state, 100, dialogs_);
-  EXPECT_EQ(SizesOf(form) + " " + form.LblSS, "5* (10) (18) 5");
+  EXPECT_EQ(SizesOf(form) + " " + form.LblSS(), "5* (10) (18) 5");
   IncludeSupport(form, true, dialogs_);
   EXPECT_EQ(form.OptionCaption(DesignSize::Limited) + form.OptionCaption(DesignSize::Standard) +
-                form.OptionCaption(DesignSize::Full) + form.LblSS,
+                form.OptionCaption(DesignSize::Full) + form.LblSS(),
             "n=6 (limited design)n=12 (standard design)n=20 (full design)6");
   EXPECT_EQ(dialogs_.Said, (Lines{"inform: Support sites will be excluded from all sample designs.",
                                   "inform: Support sites will be included in all sample designs."}));

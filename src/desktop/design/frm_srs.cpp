@@ -247,7 +247,7 @@ void frmSRS::Mirror()
     CloseParsing();
   }
   ShowValue(*designNumber_, ToQt(form_.LblDN));
-  ShowValue(*sampleSize_, ToQt(form_.LblSS));
+  ShowValue(*sampleSize_, ToQt(form_.LblSS()));
   ShowValue(*signalColumns_, ToQt(form_.LblSC));
   KeepStatus(ToQt(form_.LblMS));
   ShowStatus();
