@@ -13,12 +13,6 @@ bool WasFree(std::int16_t status)
   return status == site_status::Free || status == site_status::Candidate || status == site_status::Selected;
 }
 
-std::array<double, 2> TargetOf(const SurveyState& state, const Design& design, std::size_t point)
-{
-  const LevelRow& levels = design.Levels.at(point);
-  return state.SignalCount == 2 ? std::array{levels[1], levels[2]} : std::array{levels[0], 0.0};
-}
-
 }  // namespace
 
 SurveyFacts FactsOf(const SurveyState& state)
@@ -46,26 +40,21 @@ SurveyFacts FactsOf(const SurveyState& state)
 
 Plan PlanOf(const SurveyState& state, const Design& design)
 {
-  const auto targets = static_cast<std::size_t>(TargetPoints(design.Settings.Size));
-  const auto points = static_cast<std::size_t>(design.PointCount());
   Plan plan;
-  for (std::size_t point = 0; point < points; ++point) {
-    const PointCandidates& candidates = design.Sites.at(point);
-    if (!candidates[0].Exists()) {
+  for (const DesignPoint& point : PointsOf(design)) {
+    PlanSite& site = plan.Sites.emplace_back(PlanSite{point.Site.Index, point.Number, std::nullopt});
+    if (point.Support) {
       continue;
     }
-    PlanSite site{candidates[0].Index, static_cast<int>(point) + 1, std::nullopt};
-    if (point < targets) {
-      site.Target = TargetOf(state, design, point);
-      plan.Candidates.emplace_back();
-      for (const CandidateSite& candidate : candidates) {
-        plan.Candidates.back().push_back({candidate.X, candidate.Y});
-      }
+    site.Target = {point.Target.front(), point.Target.size() > 1 ? point.Target.back() : 0};
+    std::vector<FieldPosition>& candidates = plan.Candidates.emplace_back();
+    candidates.push_back({point.Site.X, point.Site.Y});
+    for (const CandidateSite& alternate : point.Alternates) {
+      candidates.push_back({alternate.X, alternate.Y});
     }
-    plan.Sites.push_back(site);
   }
   plan.Chosen.assign(plan.Candidates.size(), 0);
-  plan.TargetSeparation = TargetSepDist(state, static_cast<int>(targets));
+  plan.TargetSeparation = TargetSepDist(state, TargetPoints(design.Settings.Size));
   return plan;
 }
 
