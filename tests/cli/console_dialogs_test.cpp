@@ -12,9 +12,11 @@ TEST(ConsoleDialogs, AnswersByNameWhatAnOptionAskedForAndNothingElse)
     ConsoleDialogs dialogs({option}, nullptr, errors);
     EXPECT_EQ(dialogs.Ask(Question::WriteTransitionFile, "in other words"), option);
     EXPECT_TRUE(dialogs.Ask(Question::ScoreDesigns, "in other words"));
+    EXPECT_FALSE(YesLoses(Question::WriteTransitionFile) || YesLoses(Question::ScoreDesigns));
     for (const Question lost : {Question::UseFieldAgain, Question::TranslateForGood, Question::ReplaceFile,
                                 Question::Exit, Question::ExitWithoutDesigns}) {
       EXPECT_FALSE(dialogs.Ask(lost, "TA data values")) << "unasked";
+      EXPECT_TRUE(YesLoses(lost));
     }
   }
 }

@@ -26,37 +26,31 @@ struct MovedWindow {
   }
 };
 
-TEST(AutoSelection, NoAndAStopBetweenDesignsLeaveEverythingAsItWas)
+TEST(AutoSelection, NoAndAStopLeaveEverythingAsItWasAndTheEndGoesBackToPlainSettings)
 {
-  for (const int stopAt : {0, 2}) {
+  constexpr int Never = 99;
+  for (const int stopAt : {0, 2, Never}) {
     ScriptedDialogs dialogs({stopAt > 0});
     MovedWindow window(dialogs);
     const SurveyState before = window.State;
     const std::string form = Describe(window.Form);
     RunTranscript transcript;
     transcript.StopAt = stopAt;
-    EXPECT_FALSE(SelectDesigns(window.Form, window.State, Limited, dialogs, transcript));
+    const auto scores = SelectDesigns(window.Form, window.State, Limited, dialogs, transcript);
     EXPECT_EQ(dialogs.Said.back(), Question12);
     EXPECT_THAT(dialogs.Named, ElementsAre(Question::ScoreDesigns));
-    EXPECT_EQ(transcript.Designs.size(), static_cast<std::size_t>(stopAt));
     EXPECT_EQ(window.State, before);
-    EXPECT_EQ(Describe(window.Form), form);
+    if (stopAt < Never) {
+      EXPECT_FALSE(scores);
+      EXPECT_EQ(transcript.Designs.size(), static_cast<std::size_t>(stopAt));
+      EXPECT_EQ(Describe(window.Form), form);
+      continue;
+    }
+    ASSERT_TRUE(scores);
+    EXPECT_EQ(scores->optval, ScoreDesigns(window.State, LimitedDesign(), {4, Limited}, transcript)->optval);
+    EXPECT_THAT(Describe(window.Form),
+                StartsWith("open and ready; sizes 5* 10 18; D 1 1.00; TA 00; parsing 01 1/0; support 0"));
   }
-}
-
-TEST(AutoSelection, ScoresTheSizeSelectedAndGoesBackToPlainSettings)
-{
-  ScriptedDialogs dialogs({true});
-  MovedWindow window(dialogs);
-  SurveyState state = window.State;
-  RunObserver silent;
-  const auto scores = SelectDesigns(window.Form, window.State, Limited, dialogs, silent);
-  ASSERT_TRUE(scores);
-  DesignSettings settings;
-  settings.Size = DesignSize::Limited;
-  EXPECT_EQ(scores->optval, ScoreDesigns(state, settings, {4, Limited}, silent)->optval);
-  EXPECT_THAT(Describe(window.Form),
-              StartsWith("open and ready; sizes 5* 10 18; D 1 1.00; TA 00; parsing 01 1/0; support 0"));
 }
 
 TEST(AutoSelection, SitesPickedByHandMeanwhileCount)

@@ -124,6 +124,7 @@ TEST(Translation, AsksClearsThePlotAndTellsWhenItIsDone)
   EXPECT_FALSE(StartTranslation(graph, dialogs));
   EXPECT_TRUE(graph.Shown.LegendPanel);
   EXPECT_TRUE(StartTranslation(graph, dialogs));
+  EXPECT_THAT(dialogs.Named, Each(Question::TranslateForGood));
   EXPECT_EQ(dialogs.Said[1],
             "ask: WARNING!  Any translation(s) you perform will \nPERMANENTLY change the X and Y "
             "coordinates!\n\nDo you still wish to proceed with this option?");

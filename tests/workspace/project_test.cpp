@@ -57,6 +57,7 @@ TEST(Project, AFieldIdWithAnInformationFileIsAskedFor)
   EXPECT_FALSE(CheckAlphaCode(folder.Path(), "Farm", "AB12", dialogs));
   EXPECT_THAT(dialogs.Said, ElementsAre("beep", question, "beep", question, "beep",
                                         "inform: Please enter a new Field ID code now."));
+  EXPECT_THAT(dialogs.Named, Each(Question::UseFieldAgain));
 }
 
 TEST(Project, IsSetAsOftenAsWantedUntilASurveyIsImported)
