@@ -47,8 +47,9 @@ Lines Points(const Design& design)
     for (const CandidateSite& site : point.Alternates) {
       line << ' ' << site.SiteId;
     }
+    const char* before = ": ";
     for (const double level : point.Target) {
-      line << (&level == point.Target.data() ? ": " : ", ") << level;
+      line << std::exchange(before, ", ") << level;
     }
     lines.push_back(line.str());
   }
