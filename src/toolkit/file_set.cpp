@@ -237,8 +237,8 @@ class FileSet {
 /// Renames what a complete journal tells and is not in place yet.
 void FinishSet(const SetOwner& owner, std::string_view journal)
 {
-  if (!journal.ends_with(JournalEnd)) {
-    return;  // its process died before the first file went into place
+  if (!journal.ends_with(JournalEnd) || journal.find('/') != std::string_view::npos) {
+    return;  // its process died before the first file went into place, or it is no journal
   }
   journal.remove_suffix(2);
   for (std::size_t number = 1; !journal.empty(); ++number) {

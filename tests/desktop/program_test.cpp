@@ -91,8 +91,8 @@ class DesktopProgram : public testing::Test {
         value == nullptr ? unsetenv(name) : setenv(name, value, 1);
       }
       unsetenv("WAYLAND_DISPLAY");
-      setenv("HOME", Directory.Path().c_str(), 1);
-      setenv("XDG_CONFIG_HOME", (Directory / "config").c_str(), 1);
+      setenv("HOME", Printed.Path().c_str(), 1);
+      setenv("XDG_CONFIG_HOME", Printed.Path().c_str(), 1);
       process_detail::SendTo(Errors, STDERR_FILENO);
     });
   }
