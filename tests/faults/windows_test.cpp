@@ -76,7 +76,7 @@ TEST_F(FaultyWindows, KeepADesignThatCouldNotBeSaved)
     }
     EXPECT_EQ(Shared.State.DesignCount, 1);
     EXPECT_EQ(ListFiles(Project), names);
-    EXPECT_THAT(ReadText(Project / names[0]), StartsWith("  "));
+    EXPECT_NE(ReadText(Project / names[0]), "older");
   }
 }
 
