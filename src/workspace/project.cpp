@@ -103,7 +103,6 @@ void AcceptProject(SurveyState& state, const std::string& project, const std::st
   state.FieldDescription = description;
   state.ProjectName = project;
   state.FieldId = fieldId;
-  state.ProjectShown = true;
   state.Menu.Apply(WorkflowEvent::ProjectAccepted);
 }
 

@@ -18,7 +18,6 @@ inline constexpr int LongestLabel = 10;  ///< characters of a signal's label
 /// hands it to the procedures. It holds facts; captions.h has the texts that are shown of them.
 struct SurveyState : SiteColumns {
   // Project and field.
-  bool ProjectShown = false;  ///< `PSFrame`
   std::string FieldDescription, ProjectName, FieldId;
 
   // The survey.

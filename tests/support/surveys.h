@@ -119,7 +119,6 @@ inline SurveyState NamedState(const std::filesystem::path& programDir = "/nowher
   state.ProjectName = "farm";
   state.FieldId = "ab12";
   state.FieldDescription = "North field";
-  state.ProjectShown = true;
   state.Menu.Apply(WorkflowEvent::ProjectAccepted);
   return state;
 }

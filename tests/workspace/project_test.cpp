@@ -66,7 +66,6 @@ TEST(Project, IsSetAsOftenAsWantedUntilASurveyIsImported)
   AcceptProject(state, "Farm", "AB12", "North field");
   AcceptProject(state, "Hill", "CD34", "South field");
   EXPECT_EQ(state.ProjectName + state.FieldId + state.FieldDescription, "HillCD34South field");
-  EXPECT_TRUE(state.ProjectShown);
   EXPECT_TRUE(state.Menu.IsEnabled(MenuEntry::mnuImport));
   state.Menu.Apply(WorkflowEvent::SurveyImported);
   EXPECT_NE(WholeRefusalOf(state, [&] { AcceptProject(state, "Farm", "AB12", ""); }), "not refused");

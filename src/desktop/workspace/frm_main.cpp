@@ -257,7 +257,7 @@ void frmMain::MirrorStart()
 {
   constexpr double Large = 1.6;
   const SurveyState& state = program_.State;
-  const bool begun = state.ProjectShown;
+  const bool begun = !state.ProjectName.empty();
   bannerLayout_->setDirection(begun ? QBoxLayout::LeftToRight : QBoxLayout::TopToBottom);
   for (QLabel* label : bannerLabels_) {
     ScaleFont(*label, begun ? 1 : Large);

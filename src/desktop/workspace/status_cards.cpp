@@ -287,7 +287,7 @@ QWidget* StatusCards::Mirror(const SurveyState& state)
     fresh = visible && card->isHidden() ? card : fresh;
     card->setVisible(visible);
   };
-  reveal(project_, state.ProjectShown);
+  reveal(project_, !state.ProjectName.empty());
   reveal(signals_, state.Signals.Rows[0].Statistics.Count > 0);
   reveal(decorrelation_, state.DecorrDone);
   reveal(algorithms_, state.Algorithms.has_value());
