@@ -9,9 +9,7 @@ namespace veln {
 SigDecorrForm LoadSigDecorrForm(const SurveyState& state)
 {
   SigDecorrForm form;
-  if (state.DecorrDone) {
-    form.Levels = state.Decorrelation.Levels;
-  }
+  form.Levels = state.Decorrelation.Levels;
   return form;
 }
 

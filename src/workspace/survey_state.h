@@ -42,7 +42,7 @@ struct SurveyState : SiteColumns {
 
   // What the steps found.
   SignalPanel Signals;
-  DecorrelationFacts Decorrelation;          ///< once decorrelated
+  DecorrelationFacts Decorrelation;          ///< the last one, with the default levels before it
   std::optional<AlgorithmFacts> Algorithms;  ///< once the configuration is accepted
   std::array<DesignFacts, MaxDesigns> Designs;
   int ManualDesignSize = 0;  ///< sites of the saved manual design
