@@ -1,4 +1,3 @@
-#include "forms/igc_form.h"
 #include "graph_fields.h"
 
 namespace veln {

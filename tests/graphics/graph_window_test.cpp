@@ -1,5 +1,3 @@
-#include "forms/igc_form.h"
-#include "forms/pct_form.h"
 #include "graph_fields.h"
 #include "graphics/plot_statistics.h"
 #include "graphics/site_text.h"
@@ -102,20 +100,7 @@ TEST(StatisticsPanel, FollowsTheKindsOfItsArguments)
   EXPECT_EQ(UnlessWhole(0.00006), 0.00006);
 }
 
-TEST(GraphicsInitialisation, HasNoLinePlotsOnAGrid)
-{
-  SurveyState state = ImportedSurvey(GridSurvey(5, 4));
-  SurveyGraph graph = LoadSurveyGraph(state);
-  ScriptedDialogs dialogs;
-  IgcForm form = LoadIgcForm(graph, state);
-  TickLinePlots(form, true);
-  ChooseDirection(form, FieldAxis::X);
-  InitializeGraphics(form, graph, state, dialogs);
-  EXPECT_FALSE(form.Option2 || graph.IsEnabled(mnuLine));
-  EXPECT_THAT(dialogs.Said, IsEmpty());
-}
-
-TEST(Translation, AsksClearsThePlotAndTellsWhenItIsDone)
+TEST(Translation, IsAskedForAndClearsThePlot)
 {
   SurveyState state = SmallExample();
   SurveyGraph graph = OpenGraph(state);
@@ -130,28 +115,6 @@ TEST(Translation, AsksClearsThePlotAndTellsWhenItIsDone)
             "coordinates!\n\nDo you still wish to proceed with this option?");
   EXPECT_EQ(graph.Shown.Picture.Marks.size(), Plot::FrameMarks);
   EXPECT_FALSE(graph.OverlayAllowed() || graph.Shown.LegendPanel);
-
-  const Limits x = graph.XRange;
-  PctForm form;
-  form.Selected = TranslationKind::Swap;
-  ApplyTranslation(form, graph, state, false);
-  EXPECT_TRUE(form.Closed);
-  EXPECT_EQ(graph.Shown.Title, "Translation Completed...");
-  EXPECT_EQ(graph.YRange.Maximum, x.Maximum);
-  form.Selected = TranslationKind::Rotate;
-  MoveRotation(form, 200);
-  EXPECT_EQ(form.Text1(), "180");
-}
-
-TEST(Translation, IsRefusedWhileADesignWaits)
-{
-  SurveyState state = SmallExample();
-  SurveyGraph graph = OpenGraph(state);
-  PctForm form;
-  form.Selected = TranslationKind::ReverseX;
-  EXPECT_EQ(WholeRefusalOf(state, [&] { ApplyTranslation(form, graph, state, true); }),
-            "Please save or discard the current sample design first.");
-  EXPECT_FALSE(form.Closed);
 }
 
 TEST(SiteText, TellsAllThatIsKnownOfASite)
