@@ -11,17 +11,25 @@ namespace veln {
 
 namespace {
 
-/// The pixels whose middle lies on the disc, and always a whole pixel.
+/// A single pixel, or the nearest even width: dots about a corner of pixels share their middle, so that a
+/// wide one covers all of a narrower one at its place.
+int SideOf(double width)
+{
+  constexpr double TwoPixels = 1.5;  // the least width for them
+  return width < TwoPixels ? 1 : 2 * static_cast<int>(std::lround(width / 2));
+}
+
+/// The pixels whose middle lies on the disc.
 QImage DrawDot(const Pen& pen)
 {
-  const int side = std::max(1, static_cast<int>(std::lround(pen.Width)));
+  const int side = SideOf(pen.Width);
   QImage dot(side, side, QImage::Format_ARGB32_Premultiplied);
   dot.fill(Qt::transparent);
   const QColor ink(pen.Ink.Red, pen.Ink.Green, pen.Ink.Blue);
-  const double middle = (side - 1) / 2.0;
+  const double radius = side / 2.0;
   for (int y = 0; y < side; ++y) {
     for (int x = 0; x < side; ++x) {
-      if (std::hypot(x - middle, y - middle) <= pen.Width / 2) {
+      if (std::hypot(x + 0.5 - radius, y + 0.5 - radius) <= radius) {
         dot.setPixelColor(x, y, ink);
       }
     }
