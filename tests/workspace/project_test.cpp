@@ -60,6 +60,15 @@ TEST(Project, AFieldIdWithAnInformationFileIsAskedFor)
   EXPECT_THAT(dialogs.Named, Each(Question::UseFieldAgain));
 }
 
+TEST(Project, AFieldThatCanNotBeLookedAtIsNotTakenForFree)
+{
+  const TemporaryDirectory folder;
+  fs::create_directories(folder / "data/Farm");
+  fs::create_symlink("AB12info.txt", folder / "data/Farm/AB12info.txt");  // a link to itself
+  EXPECT_THAT(RefusalOf([&] { IsFieldInUse(folder.Path(), "Farm", "AB12"); }),
+              HasSubstr("AB12info.txt\ncould not be looked for: Too many levels of symbolic links"));
+}
+
 TEST(Project, IsSetAsOftenAsWantedUntilASurveyIsImported)
 {
   SurveyState state;
