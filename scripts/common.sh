@@ -8,6 +8,9 @@ desktop_packages=(qt6-base-dev)
 # The compiler cache may look things up for sources with precompiled headers too, and takes the list of headers from
 # the compiler, in place of preprocessing each source once more.
 export CCACHE_DEPEND=1 CCACHE_SLOPPINESS=pch_defines,time_macros
+if ! mkdir -p "${CCACHE_DIR:-${XDG_CACHE_HOME:-${HOME:-~}/.cache}/ccache}" 2>/dev/null; then
+    export CCACHE_DISABLE=1  # No folder of one's own to keep it in.
+fi
 
 # install_packages NAME...: installs by apt what is missing; without anything missing it takes no time.
 install_packages() {
