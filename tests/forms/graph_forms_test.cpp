@@ -34,7 +34,7 @@ TEST(GraphicsInitialisation, AppliesAllChoicesOnceTheRowsHaveADirection)
 
 TEST(GraphicsInitialisation, HasNoLinePlotsOnAGrid)
 {
-  SurveyState state = ImportedSurvey(GridSurvey(5, 4));
+  SurveyState state = ImportedSurvey(GridSurvey(5, 10));
   SurveyGraph graph = LoadSurveyGraph(state);
   ScriptedDialogs dialogs;
   IgcForm form = LoadIgcForm(graph, state);
@@ -47,7 +47,7 @@ TEST(GraphicsInitialisation, HasNoLinePlotsOnAGrid)
 
 TEST(Translation, TellsWhenItIsDoneAndIsRefusedWhileADesignWaits)
 {
-  SurveyState state = ImportedSurvey(GridSurvey(5, 4));
+  SurveyState state = ImportedSurvey(GridSurvey(5, 10));
   SurveyGraph graph = LoadSurveyGraph(state);
   PctForm form;
   form.Selected = TranslationKind::Swap;

@@ -8,22 +8,24 @@
 #include "support/surveys.h"
 #include "support/testing.h"
 #include "survey/row_table.h"
+#include "survey/statistics.h"
 
 namespace veln {
 
-/// A survey of these sites, numbered from 1, all free; without `s2` it has one signal.
+/// A survey of these few sites, numbered from 1, all free; without `s2` it has one signal.
 inline SurveyState SitesAt(std::vector<double> x, std::vector<double> y, std::vector<double> s1,
                            std::vector<double> s2 = {})
 {
-  RawSurvey survey;
-  for (std::size_t i = 0; i < x.size(); ++i) {
-    survey.SiteId.push_back(static_cast<std::int16_t>(i + 1));
-  }
-  survey.CoordX = std::move(x);
-  survey.CoordY = std::move(y);
-  survey.Signal1 = std::move(s1);
-  survey.Signal2 = std::move(s2);
-  return ImportedSurvey(std::move(survey));
+  SurveyState state = ImportedSurvey(GridSurvey(10, 5, s2.empty() ? 1 : 2));
+  state.SurveySize = static_cast<int>(x.size());
+  state.SiteId.resize(x.size());
+  state.SiteStatus.resize(x.size());
+  state.CoordX = std::move(x);
+  state.CoordY = std::move(y);
+  state.Signal1 = std::move(s1);
+  state.Signal2 = std::move(s2);
+  UpdateSignalStats(state);
+  return state;
 }
 
 /// Five rows of twelve sites with two signals, transition scores, two designs, a manual one, masked sites and

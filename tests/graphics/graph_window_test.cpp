@@ -9,7 +9,7 @@ using enum GraphEntry;
 
 TEST(GraphMenu, RefusesAClosedEntryAndKeepsThePlot)
 {
-  SurveyState state = ImportedSurvey(GridSurvey(5, 4, 1));
+  SurveyState state = ImportedSurvey(GridSurvey(10, 5, 1));
   SurveyGraph graph = LoadSurveyGraph(state);
   DitherGenerator dither;
   for (const GraphEntry entry : {mnuSs2x, mnuSz1z2, mnuHz1, mnuVta, mnuLs2}) {
@@ -48,7 +48,7 @@ TEST(GraphWindow, ShowsThePanelsOfThePlotSelected)
 TEST(GraphWindow, OffersTheOverlayOnceThereIsADesign)
 {
   for (const auto& [saved, manual] : {std::pair{0, false}, std::pair{1, false}, std::pair{0, true}}) {
-    SurveyState state = ImportedSurvey(GridSurvey(5, 4));
+    SurveyState state = ImportedSurvey(GridSurvey(10, 5));
     state.DesignCount = saved;
     state.ManualDesignDone = manual;
     SurveyGraph graph = LoadSurveyGraph(state);
@@ -129,7 +129,7 @@ TEST(SiteText, TellsAllThatIsKnownOfASite)
   EXPECT_EQ(SiteText(state, 17),
             "Site 18\nx 500123.45, y -117.123457\nEMv 45.68, EMh 32.00\n"
             "z1 1.01, z2 0.00\nsample design 1\nrow 2");
-  state = ImportedSurvey(GridSurvey(5, 4, 1));
+  state = ImportedSurvey(GridSurvey(10, 5, 1));
   state.Signal1[0] = 7;
   EXPECT_EQ(SiteText(state, 0), "Site 1\nx 0.0, y 0.0\nEMv 7.00\nfree");
 }

@@ -1,8 +1,11 @@
 #pragma once
 
 #include "signal/decorrelation.h"
-#include "survey/data_load.h"
-#include "survey/statistics.h"
+#include "signal/validation.h"
+#include "support/files.h"
+#include "support/scripted_dialogs.h"
+#include "support/temporary_directory.h"
+#include "survey/survey_import.h"
 #include "workspace/survey_state.h"
 
 #include <cstddef>
@@ -10,7 +13,6 @@
 #include <filesystem>
 #include <sstream>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace veln {
@@ -123,42 +125,36 @@ inline SurveyState NamedState(const std::filesystem::path& programDir = "/nowher
   return state;
 }
 
-/// The record as it stands after the import of a survey from "raw.txt", labels "EMv" and "EMh", in mS/m.
-inline SurveyState ImportedSurvey(RawSurvey survey, const std::filesystem::path& programDir = "/nowhere")
+/// The record after the import of a survey from "raw.txt", labels "EMv" and "EMh", in mS/m.
+inline SurveyState ImportedSurvey(const RawSurvey& survey,
+                                  const std::filesystem::path& programDir = "/nowhere")
 {
+  const TemporaryDirectory folder;
+  const RecordLayout layout = LayoutOf(survey, true);
+  WriteText(folder / "raw.txt", RawFileText(survey, layout));
   SurveyState state = NamedState(programDir);
-  state.SurveySize = static_cast<int>(survey.SiteId.size());
-  state.SignalCount = survey.Signal2.empty() ? 1 : 2;
-  state.SignalLabel = {"EMv", "EMh"};
-  state.Kind = survey.RowNumber.empty() ? SurveyKind::Grid : SurveyKind::Transect;
-  survey.SiteStatus.assign(survey.SiteId.size(), site_status::Free);
-  static_cast<SiteColumns&>(state) = std::move(survey);
+  ImportSurvey(state, {folder / "raw.txt", layout, {"EMv", "EMh"}});
   state.ImportFileName = "raw.txt";
-  UpdateSignalStats(state);
-  state.Menu.Apply(WorkflowEvent::SurveyImported);
   return state;
 }
 
 /// The record after import and decorrelation.
-inline SurveyState DecorrelatedSurvey(RawSurvey survey, const DecorrelationLevels& levels = {},
+inline SurveyState DecorrelatedSurvey(const RawSurvey& survey, const DecorrelationLevels& levels = {},
                                       const std::filesystem::path& programDir = "/nowhere")
 {
-  SurveyState state = ImportedSurvey(std::move(survey), programDir);
+  SurveyState state = ImportedSurvey(survey, programDir);
   DecorrelateSignals(state, levels);
   return state;
 }
 
-/// The record after an acceptance without options, ready for design: outliers are masked. No file is written.
-inline SurveyState AcceptedSurvey(RawSurvey survey, const DecorrelationLevels& levels = {},
+/// The record after an acceptance without options, ready for design. No file is written.
+inline SurveyState AcceptedSurvey(const RawSurvey& survey, const DecorrelationLevels& levels = {},
                                   const std::filesystem::path& programDir = "/nowhere")
 {
-  SurveyState state = DecorrelatedSurvey(std::move(survey), levels, programDir);
-  for (std::int16_t& status : state.SiteStatus) {
-    status = status == site_status::Outlier ? site_status::Masked : status;
-  }
-  const auto notRun = IsTransect(state) ? AlgorithmState::NotAsked : AlgorithmState::NotApplicable;
-  state.Algorithms = {notRun, notRun};
-  state.Menu.Apply(WorkflowEvent::ConfigurationAccepted);
+  SurveyState state = DecorrelatedSurvey(survey, levels);
+  ScriptedDialogs dialogs;
+  AcceptConfiguration(state, {}, dialogs, SystemDateTime);
+  state.ProgramDir = programDir;
   return state;
 }
 
