@@ -2,6 +2,7 @@
 
 #include "support/process.h"
 #include "support/surveys.h"
+#include "support/table.h"
 #include "support/testing.h"
 
 namespace veln {
@@ -60,70 +61,34 @@ inline std::string GridLine(int i)
          std::to_string(20 + i * 7 % 50);
 }
 
-inline std::string GridText(int sites)
+/// Such a grid; `further` stands behind it on every line.
+inline std::string GridText(int sites, const std::string& further = "")
 {
-  return Lines(sites, GridLine);
+  return Lines(sites, [&further](int i) { return GridLine(i) + further; });
 }
 
-/// The lines of a text, whatever ends them.
-inline std::vector<std::string> SplitLines(const std::string& text)
-{
-  std::vector<std::string> lines;
-  std::istringstream stream(text);
-  for (std::string line; std::getline(stream, line);) {
-    if (line.ends_with('\r')) {
-      line.pop_back();
-    }
-    lines.push_back(line);
-  }
-  return lines;
-}
-
-/// A text without the lines that differ from run to run: paths, date and time.
+/// A text with "ROOT" for a session's directory and without the lines of date and time.
 inline std::string SteadyText(const std::string& text, const std::filesystem::path& root)
 {
   std::string steady;
-  for (const std::string& line : SplitLines(text)) {
-    if (line.find(root.string()) == std::string::npos && !line.starts_with("Date & Time:")) {
-      steady += line + "\n";
+  for (std::string line : SplitLines(text)) {
+    if (const std::size_t at = line.find(root.string()); at != std::string::npos) {
+      line.replace(at, root.string().size(), "ROOT");
     }
+    steady += line.starts_with("Date & Time:") ? "" : line + "\n";
   }
   return steady;
 }
 
-/// Ten rows of 62 sites with site numbers and two signals; site 101 reads far too high for any soil, site 202
-/// so high that it stands out once the first is gone.
+/// Ten rows of 62 sites with site numbers and two signals; sites 101 and 303 read far too high for any soil,
+/// site 202 so high that it stands out once they are gone.
 inline RawSurvey SpoiltTransect()
 {
   RawSurvey survey = TransectSurvey(10, 62, 2, 7);
   survey.Signal1[100] = 1E9;
+  survey.Signal1[302] = 9E8;
   survey.Signal1[201] = 500;
   return survey;
-}
-
-/// A run that leaves no step out, on the survey above.
-inline std::vector<std::string> EveryStep()
-{
-  std::vector<std::string> options = {"--site-id", "--s2", "--log", "--transition", "--transition-file"};
-  const std::vector<std::pair<const char*, const char*>> values = {
-      {"--type", "transect"},
-      {"--convert-units", "dS/m"},
-      {"--translate", "rotate=30"},
-      {"--translate", "swap"},
-      {"--delete-outliers", "2"},
-      {"--edge-buffer", "rows"},
-      {"--manual", "130,77,400"},
-      {"--ads", "limited"},
-      {"--design", "12"},
-      {"--design", "20,d=0.85"},
-      {"--design", "12,stratum=2,no-support"},
-      {"--design", "5,d=1.15"},
-      {"--design", "6,stratum=3,d=1.05,ignore-ta"},
-      {"--description", "Süd, \"oben\""}};
-  for (const auto& [option, value] : values) {
-    options.insert(options.end(), {option, value});
-  }
-  return options;
 }
 
 }  // namespace veln

@@ -1,4 +1,6 @@
 #include "cli/veln_session.h"
+#include "survey/statistics.h"
+#include "toolkit/number_text.h"
 
 #include <nlohmann/json.hpp>
 
@@ -7,7 +9,22 @@
 namespace veln {
 namespace {
 
-using nlohmann::json;
+using Json = nlohmann::ordered_json;
+
+std::vector<std::string> EveryStep()
+{
+  std::istringstream words(
+      "--site-id --s2 --log --transition --transition-file --type transect --convert-units dS/m "
+      "--translate rotate=30 --translate swap --delete-outliers 2 --edge-buffer rows --manual 130,77,400 "
+      "--ads limited --design 12 --design 20,d=0.85 --design 12,stratum=2,no-support --design 5,d=1.15 "
+      "--design 6,stratum=3,d=1.05,ignore-ta --description S\u00FCd,\"oben\"");
+  return {std::istream_iterator<std::string>(words), {}};
+}
+
+std::string SpoiltText()
+{
+  return RawFileText(SpoiltTransect(), LayoutOf(SpoiltTransect(), true));
+}
 
 /// A line of data.svy of a transect with two signals.
 struct ExportedSite {
@@ -15,42 +32,42 @@ struct ExportedSite {
   double X = 0, Y = 0, S1 = 0, S2 = 0, Z1 = 0, Z2 = 0;
 };
 
+std::vector<ExportedSite> ReadExport(const VelnSession& session)
+{
+  std::vector<ExportedSite> sites;
+  const auto lines = SplitLines(ReadText(session.Output("data.svy")));
+  for (std::size_t i = 2; i < lines.size(); ++i) {
+    ExportedSite site;
+    std::istringstream(lines[i]) >> site.SiteId >> site.Row >> site.Status >> site.X >> site.Y >> site.S1 >>
+        site.S2 >> site.Z1 >> site.Z2;
+    sites.push_back(site);
+  }
+  return sites;
+}
+
 /// One run with every step, made once for all tests of this file.
 class WholeRun : public testing::Test {
  protected:
+  struct Made {
+    VelnSession Session;
+    Json Document;
+    std::vector<ExportedSite> Sites;
+  };
+
   static void SetUpTestSuite()
   {
-    session_ = new VelnSession;
+    made_ = new Made;
     std::vector<std::string> options = EveryStep();
     options.emplace_back("--json");
-    const ProcessResult result = session_->Run(Text(), options);
+    const ProcessResult result = made_->Session.Run(SpoiltText(), options);
     ASSERT_EQ(result.Status, 0) << result.Err;
-    document_ = new json(json::parse(result.Out));
-    sites_ = new std::vector<ExportedSite>;
-    const auto lines = SplitLines(ReadText(session_->Output("data.svy")));
-    for (std::size_t i = 2; i < lines.size(); ++i) {
-      ExportedSite site;
-      std::istringstream(lines[i]) >> site.SiteId >> site.Row >> site.Status >> site.X >> site.Y >> site.S1 >>
-          site.S2 >> site.Z1 >> site.Z2;
-      sites_->push_back(site);
-    }
+    made_->Document = Json::parse(result.Out);
+    made_->Sites = ReadExport(made_->Session);
   }
+  static void TearDownTestSuite() { delete made_; }
 
-  static void TearDownTestSuite()
-  {
-    delete sites_;
-    delete document_;
-    delete session_;
-  }
-
-  static std::string Text() { return RawFileText(SpoiltTransect(), LayoutOf(SpoiltTransect(), true)); }
-  static std::string File(const std::string& suffix) { return ReadText(session_->Output(suffix)); }
-  static const json& Document() { return *document_; }
-  static const std::vector<ExportedSite>& Sites() { return *sites_; }
-  static const ExportedSite& SiteOf(int siteId)
-  {
-    return *std::ranges::find(*sites_, siteId, &ExportedSite::SiteId);
-  }
+  static const Json& Part(const char* name) { return made_->Document.at(name); }
+  static const std::vector<ExportedSite>& Sites() { return made_->Sites; }
   static std::vector<int> WithStatus(int status)
   {
     std::vector<int> siteIds;
@@ -62,37 +79,44 @@ class WholeRun : public testing::Test {
     return siteIds;
   }
 
-  static VelnSession* session_;
-  static json* document_;
-  static std::vector<ExportedSite>* sites_;
+  static Made* made_;
 };
 
-VelnSession* WholeRun::session_ = nullptr;
-json* WholeRun::document_ = nullptr;
-std::vector<ExportedSite>* WholeRun::sites_ = nullptr;
+WholeRun::Made* WholeRun::made_ = nullptr;
 
-std::vector<int> SortedSiteIds(const json& design)
+TEST_F(WholeRun, DeletesSpoiltReadingsRoundByRound)
 {
-  std::vector<int> siteIds;
-  for (const json& point : design.at("points")) {
-    siteIds.push_back(point.at("site_id"));
+  std::string rounds;
+  for (const Json& round : Part("decorrelation")) {
+    rounds +=
+        round.at("sites").dump() + ":" + round.at("masked").dump() + ":" + round.at("outliers").dump() + " ";
   }
-  std::ranges::sort(siteIds);
-  return siteIds;
+  EXPECT_EQ(rounds, "620:0:2 618:0:1 617:0:0 ");
+  EXPECT_EQ(Part("deleted"), 3);
+  EXPECT_EQ(Part("validations"), 2);
+  EXPECT_EQ(Part("import").at("sites"), 620);
+  EXPECT_EQ(Part("signals").at(1).at("n"), 617);
+  EXPECT_EQ(Sites().size(), 617U);
+  EXPECT_TRUE(std::ranges::none_of(Sites(), [](const ExportedSite& site) {
+    return site.SiteId == 101 || site.SiteId == 202 || site.SiteId == 303;
+  }));
 }
 
-TEST_F(WholeRun, DeletesOneSpoiltReadingARound)
+TEST_F(WholeRun, DescribesTheSignalsAsTheyEnded)
 {
-  std::vector<std::pair<int, int>> rounds;
-  for (const json& round : Document().at("decorrelation")) {
-    rounds.emplace_back(round.at("sites"), round.at("outliers"));
-  }
-  EXPECT_THAT(rounds, ElementsAre(std::pair(620, 1), std::pair(619, 1), std::pair(618, 0)));
-  EXPECT_EQ(Document().at("deleted"), 2);
-  EXPECT_EQ(Document().at("validations"), 2);
-  EXPECT_EQ(Sites().size(), 618U);
+  std::vector<double> s1;
+  std::vector<double> s2;
   for (const ExportedSite& site : Sites()) {
-    EXPECT_TRUE(site.SiteId != 101 && site.SiteId != 202);
+    s1.push_back(site.S1);
+    s2.push_back(site.S2);
+  }
+  EXPECT_NEAR(Part("corr").get<double>(), Correlation(s1, s2).value(), 1E-4);
+  for (const auto& [signal, values] : {std::pair(0, s1), std::pair(1, s2)}) {
+    const Json& described = Part("signals").at(static_cast<std::size_t>(signal));
+    EXPECT_NEAR(described.at("mean").get<double>(), MeanStd(values).Mean, 1E-5);
+    EXPECT_NEAR(described.at("std").get<double>(), MeanStd(values).Std, 1E-5);
+    EXPECT_NEAR(described.at("min").get<double>(), std::ranges::min(values), 1E-5);
+    EXPECT_NEAR(described.at("max").get<double>(), std::ranges::max(values), 1E-5);
   }
 }
 
@@ -116,120 +140,92 @@ TEST_F(WholeRun, KeepsWhatWasReadBehindLogUnitsAndTranslations)
 
 TEST_F(WholeRun, GivesEverySiteOneCodeThatItsStepExplains)
 {
-  std::map<int, int> codes;
-  for (const ExportedSite& site : Sites()) {
-    ++codes[site.Status];
-  }
-  EXPECT_EQ(codes[8] + codes[9], 0);
   EXPECT_THAT(WithStatus(6), ElementsAre(77, 130, 400));
-  EXPECT_EQ(Document().at("manual").at("sites"), (std::vector{77, 130, 400}));
+  EXPECT_EQ(Part("manual").dump(), R"({"sites":[77,130,400]})");
+  EXPECT_TRUE(WithStatus(8).empty() && WithStatus(9).empty());
   for (const ExportedSite& site : Sites()) {
     EXPECT_TRUE(site.Status == 7 || (site.Row != 1 && site.Row != 10)) << "edge row, site " << site.SiteId;
   }
   // Rows are about 305 m long: 4 percent take in the three sites at either end, 5 m apart.
   const int ends = 6;
-  EXPECT_EQ(Document().at("edge_buffer").at("masked"), 10 * ends + 2 * 62);
-  EXPECT_GE(codes[7], 8 * ends + 2 * 62);
-  EXPECT_LE(codes[7], 8 * ends + 2 * 62 + Document().at("decorrelation").back().at("masked").get<int>());
-  EXPECT_EQ(codes[1] + codes[2] + codes[3] + codes[4] + codes[5], 12 + 20 + 10 + 5 + 6);
+  EXPECT_EQ(Part("edge_buffer").at("masked"), 10 * ends + 2 * 62);
+  const auto masked = static_cast<int>(WithStatus(7).size());
+  EXPECT_GE(masked, 8 * ends + 2 * 62);
+  EXPECT_LE(masked, 8 * ends + 2 * 62 + Part("decorrelation").back().at("masked").get<int>());
+  const auto scores = SplitLines(ReadText(made_->Session.Output("tstd.std")));
+  ASSERT_EQ(scores.size(), 618U);
+  EXPECT_EQ(Part("transition").at("high"),
+            std::count_if(scores.begin() + 1, scores.end(), [](const std::string& line) {
+              return std::stod(line.substr(line.rfind(' '))) > 1;
+            }));
 }
 
-TEST_F(WholeRun, ScoresEverySiteOfTheTransects)
+TEST_F(WholeRun, MakesEachDesignAsAskedForOfSitesOfItsOwn)
 {
-  const auto lines = SplitLines(File("tstd.std"));
-  ASSERT_EQ(lines.size(), 619U);
-  const auto high = std::count_if(lines.begin() + 1, lines.end(), [](const std::string& line) {
-    return std::stod(line.substr(line.rfind(' '))) > 1;
-  });
-  EXPECT_EQ(Document().at("transition").at("high"), high);
-}
-
-TEST_F(WholeRun, MakesEachDesignAsAskedFor)
-{
+  const double centralLimit = 0.25;  // of support sites; 125 / 617 is below it
   std::string settings;
-  for (const json& design : Document().at("designs")) {
-    settings += design.at("number").dump() + ": " + design.at("size").dump() + " " +
-                design.at("d_factor").dump() + " " + design.at("stratum").dump() + "/" +
-                design.at("strata").dump() + (design.at("support") ? " support" : "") +
-                (design.at("ignore_ta") ? " ignore" : "") + "\n";
-  }
-  EXPECT_EQ(settings,
-            "1: 12 1.0 1/1 support\n"
-            "2: 20 0.85 1/1 support\n"
-            "3: 10 1.0 2/3\n"
-            "4: 5 1.15 1/1\n"
-            "5: 6 1.05 3/3 support ignore\n");
-  EXPECT_EQ(Document().at("notes").back(),
-            "Note: This was your 5th sampling design.  No further designs can be generated...");
-}
-
-TEST_F(WholeRun, HasNoSiteInTwoDesignsAndSupportSitesNearTheCentre)
-{
-  const double centralLimit = 0.25;  // 125 / 618 is below it
-  for (const json& design : Document().at("designs")) {
-    EXPECT_EQ(SortedSiteIds(design), WithStatus(design.at("number")));
-    for (const json& point : design.at("points")) {
-      const ExportedSite& site = SiteOf(point.at("site_id"));
+  for (const Json& design : Part("designs")) {
+    for (const char* key : {"number", "size", "d_factor", "stratum", "strata", "support", "ignore_ta"}) {
+      settings += design.at(key).dump() + " ";
+    }
+    settings += "\n";
+    std::vector<int> siteIds;
+    for (const Json& point : design.at("points")) {
+      siteIds.push_back(point.at("site_id"));
+      const ExportedSite& site = *std::ranges::find(Sites(), siteIds.back(), &ExportedSite::SiteId);
       EXPECT_NEAR(site.X, point.at("x").get<double>(), 1E-6);
+      EXPECT_NEAR(site.Y, point.at("y").get<double>(), 1E-6);
       if (point.at("support_site")) {
         EXPECT_LE(std::max(std::abs(site.Z1), std::abs(site.Z2)), centralLimit);
-        EXPECT_FALSE(point.contains("alternates"));
       } else {
-        const std::set<int> candidates = {point.at("site_id"), point.at("alternates").at(0),
-                                          point.at("alternates").at(1)};
-        EXPECT_EQ(candidates.size(), 3U);
+        EXPECT_NE(point.at("alternates").at(0), point.at("alternates").at(1));
       }
     }
+    std::ranges::sort(siteIds);
+    EXPECT_EQ(siteIds, WithStatus(design.at("number")));
   }
+  EXPECT_EQ(settings,
+            "1 12 1.0 1 1 true false \n2 20 0.85 1 1 true false \n3 10 1.0 2 3 false false \n"
+            "4 5 1.15 1 1 false false \n5 6 1.05 3 3 true true \n");
 }
 
-TEST_F(WholeRun, ListsItsDesignsAlikeInAllFiles)
+TEST_F(WholeRun, ListsItsFilesAndNotesInTheOrderTheyCame)
 {
-  for (const json& design : Document().at("designs")) {
-    const std::string digit = design.at("number").dump();
-    const auto gps = SplitLines(File("gps" + digit + ".txt"));
-    const auto xrs = SplitLines(File("xrs" + digit + ".asc"));
-    const std::vector<int> siteIds = SortedSiteIds(design);
-    ASSERT_EQ(gps.size(), siteIds.size());
-    ASSERT_EQ(xrs.size(), siteIds.size());
-    for (std::size_t i = 0; i < siteIds.size(); ++i) {
-      const ExportedSite& site = SiteOf(siteIds[i]);
-      EXPECT_TRUE(gps[i].ends_with(", " + std::to_string(site.SiteId) + ", " + std::to_string(site.Row)));
-      EXPECT_TRUE(xrs[i].ends_with(", \"FLD1-" + std::to_string(site.SiteId) + "\""));
-    }
-    const std::string report = File("rsd" + digit + ".txt");
-    EXPECT_EQ(report.find("transition scores incorporated") == std::string::npos,
-              design.at("ignore_ta").get<bool>());
-    EXPECT_EQ(report.find("forced data stratification") == std::string::npos, design.at("strata") == 1);
-    EXPECT_NE(report.find("Field Desc:   S\xc3\xbc"
-                          "d, \"oben\"\r\n"),
-              std::string::npos);
-  }
-}
-
-TEST_F(WholeRun, ListsItsFilesInTheOrderWritten)
-{
-  std::vector<std::string> expected = {session_->Output("tstd.std"), session_->Output("info.txt"),
-                                       session_->Output("ugsd.txt")};
+  Json files = {"tstd.std", "info.txt", "ugsd.txt"};
+  Json notes = {"Note:   184 sites were masked by the edge buffering algorithm.",
+                "Note:  " + NumberToString(Part("transition").at("high").get<int>()) +
+                    " sites exceed the global signal variability level.",
+                "Data file information & statistics saved to FLD1info.txt",
+                "User generated sampling design information has been saved to FLD1ugsd.txt"};
   for (const std::string digit : {"1", "2", "3", "4", "5"}) {
     for (const std::string& suffix :
          {"rsd" + digit + ".txt", "gps" + digit + ".txt", "xrs" + digit + ".asc"}) {
-      expected.push_back(session_->Output(suffix));
+      files.push_back(suffix);
     }
+    notes.push_back("SRSD sampling design information has been saved to FLD1rsd" + digit + ".txt");
   }
-  expected.push_back(session_->Output("data.svy"));
-  EXPECT_EQ(Document().at("files"), expected);
-  EXPECT_EQ(session_->Outputs().size(), expected.size());
+  notes.push_back("Note: This was your 5th sampling design.  No further designs can be generated...");
+  files.push_back("data.svy");
+  for (Json& file : files) {
+    file = made_->Session.Output(file).string();
+    EXPECT_TRUE(std::filesystem::exists(file.get<std::string>())) << file;
+  }
+  EXPECT_EQ(Part("files").dump(1), files.dump(1));
+  EXPECT_EQ(Part("notes").dump(1), notes.dump(1));
 }
 
-TEST_F(WholeRun, GivesTheSameBytesAgain)
+TEST_F(WholeRun, PrintsItsProgressAndGivesTheSameBytesAgain)
 {
   VelnSession again;
-  ASSERT_EQ(again.Run(Text(), EveryStep()).Status, 0);
-  for (const std::string& suffix : session_->Outputs()) {
-    EXPECT_EQ(SteadyText(ReadText(again.Output(suffix)), again.Root()),
-              SteadyText(File(suffix), session_->Root()))
-        << suffix;
+  const ProcessResult result = again.Run(SpoiltText(), EveryStep());
+  EXPECT_EQ(SteadyText(result.Out, again.Root()),
+            ReadText(std::filesystem::path(VELN_TEST_DATA) / "whole_run_progress.txt"));
+  for (const std::string& file : ListFiles(again.Root())) {
+    if (!file.ends_with('/')) {
+      EXPECT_EQ(SteadyText(ReadText(again.Root() / file), again.Root()),
+                SteadyText(ReadText(made_->Session.Root() / file), made_->Session.Root()))
+          << file;
+    }
   }
 }
 
