@@ -5,16 +5,6 @@
 namespace veln {
 namespace {
 
-// The lines have 18, 15 and 18 characters, 51 in all.
-Banner After(int ticks)
-{
-  Banner banner;
-  for (int i = 0; i < ticks; ++i) {
-    banner.Tick();
-  }
-  return banner;
-}
-
 /// What is to be seen: the visible lines.
 std::string Seen(const Banner& banner)
 {
@@ -25,33 +15,31 @@ std::string Seen(const Banner& banner)
   return seen;
 }
 
-TEST(Banner, TypesOneCharacterATickAndBeginsALineOnceTheLastIsWhole)
+// The lines have 18, 15 and 18 characters, 51 in all.
+TEST(Banner, TypesOneCharacterATickAndStopsOneTickBehindItsEnd)
 {
-  EXPECT_EQ(Seen(After(0)), "");
-  EXPECT_EQ(Seen(After(1)), "N|");
-  EXPECT_EQ(Seen(After(18)), "Norvane Department|");
-  EXPECT_EQ(Seen(After(19)), "Norvane Department|N|");
-  EXPECT_EQ(Seen(After(33)), "Norvane Department|Norvane Service|");
-  EXPECT_EQ(Seen(After(34)), "Norvane Department|Norvane Service|N|");
-  EXPECT_EQ(Seen(After(51)), "Norvane Department|Norvane Service|Norvane Laboratory|");
-}
-
-TEST(Banner, EndsOneTickBehindTheLastCharacterAndStopsTheTimerOnTheNext)
-{
-  EXPECT_EQ(After(51).BannerRunning, 1);
-  EXPECT_EQ(After(52).BannerRunning, 0);
-  EXPECT_TRUE(After(52).TimerRunning);
-  EXPECT_FALSE(After(53).TimerRunning);
-  EXPECT_EQ(Seen(After(53)), "Norvane Department|Norvane Service|Norvane Laboratory|");
-}
-
-TEST(Banner, CutShortItShowsTheWholeLinesOnTheNextTick)
-{
-  Banner banner = After(5);
-  banner.BannerRunning = 0;
-  banner.Tick();
-  EXPECT_EQ(Seen(banner), "Norvane Department|Norvane Service|Norvane Laboratory|");
-  EXPECT_FALSE(banner.TimerRunning);
+  const std::map<int, std::string> seen = {{0, ""},
+                                           {1, "N|"},
+                                           {18, "Norvane Department|"},
+                                           {19, "Norvane Department|N|"},
+                                           {33, "Norvane Department|Norvane Service|"},
+                                           {34, "Norvane Department|Norvane Service|N|"},
+                                           {51, "Norvane Department|Norvane Service|Norvane Laboratory|"}};
+  Banner banner;
+  for (int tick = 0; tick <= 53; ++tick) {
+    if (const auto row = seen.find(tick); row != seen.end()) {
+      EXPECT_EQ(Seen(banner), row->second) << tick;
+    }
+    EXPECT_EQ(banner.BannerRunning, tick <= 51 ? 1 : 0) << tick;
+    EXPECT_EQ(banner.TimerRunning, tick <= 52) << tick;
+    banner.Tick();
+  }
+  Banner cutShort;
+  cutShort.Tick();
+  cutShort.BannerRunning = 0;
+  cutShort.Tick();
+  EXPECT_EQ(Seen(cutShort), seen.at(51));
+  EXPECT_FALSE(cutShort.TimerRunning);
 }
 
 }  // namespace

@@ -52,12 +52,13 @@ TEST_F(ProjectFormTest, WithoutDataItBeepsWarnsAndOpensEmpty)
                                         "veln2\\data subdirectory!"));
 }
 
-TEST_F(ProjectFormTest, CodeShowsOnTheFourthCharacterAlone)
+TEST_F(ProjectFormTest, CodeShowsOnTheFourthCharacterBehindAProjectAlone)
 {
-  ChooseProject(Form, "Farm");
-  TypeCode("aB1");
+  TypeCode("aB12");
   EXPECT_TRUE(CodeHidden());
-  TypeCode("2");
+  ChooseProject(Form, "Farm");
+  EXPECT_TRUE(CodeHidden()) << "a project chosen behind the code needs the fourth character again";
+  TypeCode("<2");
   EXPECT_TRUE(CodeShown());
   EXPECT_EQ(Form.LblFID, "aB12");
   for (const char* furtherKey : {"<", "x", "_"}) {
@@ -67,21 +68,6 @@ TEST_F(ProjectFormTest, CodeShowsOnTheFourthCharacterAlone)
     TypeCode(furtherKey);
     EXPECT_TRUE(CodeHidden()) << furtherKey;
   }
-}
-
-TEST_F(ProjectFormTest, AProjectChosenBehindTheCodeNeedsTheFourthCharacterAgain)
-{
-  TypeCode("AB12");
-  ChooseProject(Form, "Farm");
-  EXPECT_TRUE(CodeHidden());
-  TypeCode("<2");
-  EXPECT_TRUE(CodeShown());
-}
-
-TEST_F(ProjectFormTest, AReplacedThirdCharacterIsNoFourth)
-{
-  ChooseProject(Form, "Farm");
-  TypeCode("AB1");
   KeyInFieldId(Form, {U'2', "AB1", "AB2"}, Dialogs);  // typed over the selected third
   EXPECT_TRUE(CodeHidden());
 }
@@ -140,30 +126,24 @@ TEST_F(ProjectFormTest, NamesThatAreNoneOrInUseAreToldAndChangeNothing)
   }
 }
 
-TEST_F(ProjectFormTest, OkTakesProjectCodeAndDescriptionOver)
-{
-  ChooseProject(Form, "Farm");
-  TypeCode("AB12");
-  Form.Text2 = "\u00C4cker, north";
-  EXPECT_TRUE(AcceptProjectForm(Form, State, Field, Dialogs));
-  EXPECT_TRUE(Field);
-  EXPECT_EQ(State.ProjectName + " " + State.FieldId + " " + State.FieldDescription,
-            "Farm AB12 \u00C4cker, north");
-}
-
-TEST_F(ProjectFormTest, NoToOverwritingEmptiesTheCodeAlone)
+TEST_F(ProjectFormTest, OkTakesAllOverAndANoToOverwritingEmptiesTheCodeAlone)
 {
   WriteText(Data() / "Farm" / "AB12info.txt", "");
   ChooseProject(Form, "Farm");
   TypeCode("AB12");
-  Form.Text2 = "North field";
+  Form.Text2 = "\u00C4cker, north";
   const SurveyState before = State;
   Dialogs.Answer(false);
   EXPECT_FALSE(AcceptProjectForm(Form, State, Field, Dialogs));
   EXPECT_FALSE(Field);
   EXPECT_TRUE(State == before);
-  EXPECT_EQ(Form.LblPrj + ": " + Form.Text2 + Form.Text3, "Farm: North field");
+  EXPECT_EQ(Form.LblPrj + ": " + Form.Text2 + Form.Text3, "Farm: \u00C4cker, north");
   EXPECT_TRUE(CodeHidden());
+  TypeCode("CD34");
+  EXPECT_TRUE(AcceptProjectForm(Form, State, Field, Dialogs));
+  EXPECT_TRUE(Field);
+  EXPECT_EQ(State.ProjectName + " " + State.FieldId + " " + State.FieldDescription,
+            "Farm CD34 \u00C4cker, north");
 }
 
 }  // namespace

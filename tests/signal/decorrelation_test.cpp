@@ -1,8 +1,8 @@
 #include "signal/decorrelation.h"
 
-#include "forms/outlier_list.h"
 #include "support/surveys.h"
 #include "support/testing.h"
+#include "survey/statistics.h"
 
 namespace veln {
 namespace {
@@ -129,25 +129,6 @@ TEST(Decorrelation, RefusalNamesTheCauseAndLeavesTheRecordWhole)
   EXPECT_THAT(refusal(), HasSubstr("\"EMv\" is constant"));
   SurveyState empty;
   EXPECT_NE(WholeRefusalOf(empty, [&empty] { DecorrelateSignals(empty, {}); }), "not refused");
-}
-
-TEST(OutlierList, TellsOutliersAloneInSurveyOrder)
-{
-  SurveyState state = FiveDeviations();
-  state.CoordX[10] = 1.000005;
-  state.CoordY[10] = -2;
-  DecorrelateSignals(state, {450, 500});
-  state.SiteStatus[20] = site_status::Masked;
-  TextTable table = ListOutliers(state);
-  EXPECT_THAT(table.Headings, ElementsAre("Site ID", "X Coord", "Y Coord", "Sig 1", "Abs(STD)"));
-  ASSERT_THAT(table.Rows, ElementsAre(ElementsAre("11", "1.00001", "-2.0", "5.00", "5.000"),
-                                      ElementsAre("51", "500.0", "0.0", "-5.00", "5.000")));
-  state.SignalCount = 2;
-  state.Signal2.assign(51, 0.1235);
-  state.Decorr2.assign(51, 12);
-  table = ListOutliers(state);
-  EXPECT_EQ(table.Headings[4], "Sig 2");
-  EXPECT_THAT(table.Rows[1], ElementsAre("51", "500.0", "0.0", "-5.00", "0.124", "13.000"));
 }
 
 }  // namespace

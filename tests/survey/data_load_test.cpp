@@ -1,151 +1,97 @@
 #include "survey/data_load.h"
 
+#include "support/table.h"
 #include "support/testing.h"
+#include "survey/raw_items.h"
 
 namespace veln {
 namespace {
 
-constexpr const char* TooMany =
-    "Error!  Your file contains more than 30,000 records.\nData import process has been aborted!";
-constexpr const char* TooFew =
-    "Error!  Your file contains less than 50 records.\nData import process has been aborted!";
-constexpr const char* NonNumeric =
-    "Error!  Non-numeric data was detected in input file!\nData import process has been aborted!\n \n"
-    "Please edit this file before attempting to import it again.";
-constexpr const char* NonPositive =
-    "Error!  Non-positive signal data was detected in input file!\n"
-    "This signal data can not be log transformed.\nData import process has been aborted!";
-constexpr const char* Fewer =
-    "Error!  There are fewer data columns present in input file\n"
-    "than you indicated!  Data import process has been aborted!";
-constexpr const char* More =
-    "Error!  There are more data columns present in input file\n"
-    "than you indicated!  Data import process has been aborted!";
-constexpr const char* BadRows =
-    "Error!  The row numbers in your file are invalid.\nData import process has been aborted!";
+const std::filesystem::path Data = VELN_TEST_DATA;
 
-constexpr RecordLayout Plain{};  // x, y, s1
-constexpr RecordLayout WithId{.SiteIdColumn = true};
-constexpr RecordLayout WithS2{.SecondSignal = true};
-constexpr RecordLayout WithRow{.Transect = true};
+const std::map<std::string, std::string> Verdicts = {
+    {"taken", "not refused"},
+    {"too-many",
+     "Error!  Your file contains more than 30,000 records.\nData import process has been aborted!"},
+    {"too-few", "Error!  Your file contains less than 50 records.\nData import process has been aborted!"},
+    {"non-numeric",
+     "Error!  Non-numeric data was detected in input file!\nData import process has been aborted!\n \n"
+     "Please edit this file before attempting to import it again."},
+    {"non-positive",
+     "Error!  Non-positive signal data was detected in input file!\n"
+     "This signal data can not be log transformed.\nData import process has been aborted!"},
+    {"fewer",
+     "Error!  There are fewer data columns present in input file\n"
+     "than you indicated!  Data import process has been aborted!"},
+    {"more",
+     "Error!  There are more data columns present in input file\n"
+     "than you indicated!  Data import process has been aborted!"},
+    {"rows", "Error!  The row numbers in your file are invalid.\nData import process has been aborted!"}};
 
-/// `count` lines alike.
-std::string Lines(int count, const std::string& line)
+TEST(DataLoad, SaysToAFileWhatTheTableSays)
 {
-  return Repeated(line + "\n", count);
-}
-
-/// 50 lines alike but for one, counted from 1.
-std::string FiftyBut(int number, const std::string& odd, const std::string& line)
-{
-  return Lines(number - 1, line) + odd + "\n" + Lines(50 - number, line);
-}
-
-std::string Fault(const std::string& content, const RecordLayout& layout, bool log = false)
-{
-  return RefusalOf([&] { DataLoad(content, layout, log, {}); });
-}
-
-TEST(DataLoad, TakesFiftyToThirtyThousandLines)
-{
-  EXPECT_EQ(Fault(Lines(49, "1 2 3"), Plain), TooFew);
-  EXPECT_EQ(DataLoad(Lines(50, "1 2 3"), Plain, false, {}).SiteId.size(), 50U);
-  EXPECT_EQ(DataLoad(Lines(30'000, "1 2 3"), Plain, false, {}).SiteId.back(), 30'000);
-  EXPECT_EQ(Fault(Lines(30'001, "not a number"), Plain), TooMany);
-  EXPECT_EQ(Fault("", Plain), TooFew);
-}
-
-TEST(DataLoad, LastLineNeedsNoEndButABlankOneCounts)
-{
-  EXPECT_EQ(DataLoad(Lines(49, "1 2 3") + "1 2 3", Plain, false, {}).SiteId.size(), 50U);
-  EXPECT_EQ(Fault(Lines(50, "1 2 3") + "\n", Plain), Fewer);
-  EXPECT_EQ(Fault(Lines(50, "1 2 3") + " ", Plain), Fewer);
-}
-
-TEST(DataLoad, HeaderIsNonNumericWithOrWithoutAByteOrderMark)
-{
-  EXPECT_EQ(Fault("x,y,s1\n" + Lines(50, "1 2 3"), Plain), NonNumeric);
-  EXPECT_EQ(DataLoad("\xEF\xBB\xBF" + Lines(50, "1 2 3"), Plain, false, {}).CoordX.front(), 1);
-}
-
-TEST(DataLoad, EveryItemMustBeANumber)
-{
-  for (const char* odd :
-       {"1,,3", "1 x 3", "1 2 nan", "1 2 inf", "0x1 2 3", "1E999 2 3", "\" 1\" 2 3", "1 2 3;"}) {
-    EXPECT_EQ(Fault(FiftyBut(20, odd, "1 2 3"), Plain), NonNumeric) << odd;
+  for (const auto& row : ReadRows(Data / "raw_files.txt")) {
+    const auto told = [&row](const char* column) { return row[0].find(column) != std::string::npos; };
+    std::string content;
+    for (std::size_t i = 2; i < row.size(); ++i) {
+      const std::size_t star = row[i].find('*');
+      content += Repeated(row[i].substr(star + 1) + "\n", std::stoi(row[i].substr(0, star)));
+    }
+    EXPECT_EQ(RefusalOf([&] { DataLoad(content, {told("row"), told("id"), told("s2")}, told("log"), {}); }),
+              Verdicts.at(row[1]))
+        << testing::PrintToString(row);
   }
-  EXPECT_EQ(DataLoad(FiftyBut(1, "\"+1\", .5e1 -1E-999", "1 2 3"), Plain, false, {}).CoordY.front(), 5);
 }
 
-TEST(DataLoad, BoxesWronglySetTellFewerColumnsAndMissingOnesMore)
+TEST(DataLoad, PutsEachItemInItsColumn)
 {
-  EXPECT_EQ(Fault(Lines(50, "1 2 3"), WithId), Fewer);
-  EXPECT_EQ(Fault(Lines(50, "1 2 3"), WithS2), Fewer);
-  EXPECT_EQ(Fault(Lines(50, "1 2 3"), WithRow), Fewer);
-  EXPECT_EQ(Fault(Lines(50, "1 2 3 4"), Plain), More);
-  EXPECT_EQ(Fault(Lines(50, "1 2 3 4 5"), WithRow), More);
+  const RawSurvey survey = DataLoad("2.5 -.5 5. 3 4 1 3.5 1 2\n5 6 7\n" + Repeated("9 1 2 3 4 250\n", 48),
+                                    {true, true, true}, false, {});
+  EXPECT_EQ(survey.SiteId.size(), 50U);
+  EXPECT_EQ(std::pair(survey.SiteId[0], survey.SiteId[1]), std::pair(std::int16_t{2}, std::int16_t{4}))
+      << "rounded to even";
+  EXPECT_EQ(std::pair(survey.CoordX[0], survey.CoordY[0]), std::pair(-.5, 5.0));
+  EXPECT_EQ(std::pair(survey.Signal1[1], survey.Signal2[1]), std::pair(5.0, 6.0)) << "across line ends";
+  EXPECT_EQ(std::pair(survey.RowNumber[1], survey.RowNumber[49]),
+            std::pair(std::int16_t{7}, std::int16_t{250}));
+  const RawSurvey logarithms =
+      DataLoad(Repeated("-1 -2 1 2\n", 49) + "0 0 3 4", {.SecondSignal = true}, true, {});
+  EXPECT_EQ(std::pair(logarithms.Signal1[48], logarithms.Signal2[48]), std::pair(0.0, std::log(2.0)));
+  EXPECT_EQ(std::pair(logarithms.CoordX[48], logarithms.SiteId.back()), std::pair(-1.0, std::int16_t{50}));
+  EXPECT_THAT(logarithms.RowNumber, IsEmpty());
 }
 
-TEST(DataLoad, RecordsRunAcrossLineEnds)
+TEST(DataLoad, TellsEveryHundredthLineAndRecordAndTheLast)
 {
-  const RawSurvey survey = DataLoad(Lines(25, "1 2 3 4\n5 6"), Plain, false, {});
-  EXPECT_THAT((std::vector{survey.CoordX[1], survey.CoordY[1], survey.Signal1[1]}), ElementsAre(4, 5, 6));
+  std::string told;
+  DataLoad(Repeated("1 2 3\n", 250), {}, false, [&told](ImportPass pass, int count) {
+    told += (pass == ImportPass::Scanning ? "s" : "i") + std::to_string(count) + " ";
+  });
+  EXPECT_EQ(told, "s0 s100 s200 s250 i0 i100 i200 i250 ");
 }
 
-TEST(DataLoad, SiteIdsAndRowsAreRoundedToEvenAndMustFitSixteenBits)
+TEST(RawItems, AreThoseOfTheTable)
 {
-  const RawSurvey survey = DataLoad(
-      "2.5 1 2 3\n3.5 1 2 3\n32767.4 1 2 3\n-32768.5 1 2 3\n" + Lines(46, "7 1 2 3"), WithId, false, {});
-  EXPECT_THAT((std::vector(survey.SiteId.begin(), survey.SiteId.begin() + 5)),
-              ElementsAre(2, 4, 32767, -32768, 7));
-  // The reader takes what it can't hold for a shifted column, and tells its direction by the record count.
-  for (const char* odd : {"40000 1 2 3", "32767.5 1 2 3", "-32769 1 2 3"}) {
-    EXPECT_EQ(Fault(FiftyBut(49, odd, "7 1 2 3"), WithId), Fewer) << odd;
-    EXPECT_EQ(Fault(FiftyBut(50, odd, "7 1 2 3"), WithId), More) << odd;
+  for (const auto& row : ReadRows(Data / "raw_items.txt")) {
+    RawItems reader(row[0]);
+    std::vector<std::string> items;
+    while (const auto item = reader.Next()) {
+      items.emplace_back(*item);
+    }
+    EXPECT_TRUE(reader.AtEnd());
+    EXPECT_EQ(items, std::vector(row.begin() + 1, row.end())) << row[0];
   }
-  EXPECT_EQ(Fault(FiftyBut(20, "1 2 3 40000", "1 2 3 1"), WithRow), Fewer);
 }
 
-TEST(DataLoad, TestsOfARecordComeInTheirOrder)
+TEST(RawItems, LinesEndInThreeWaysAndTheEmptyRestIsNone)
 {
-  const std::string fifty = Lines(50, "1 2 3");
-  EXPECT_EQ(Fault(FiftyBut(50, "1 2 3 4 5 x", "1 2 3"), Plain), NonNumeric);  // a word in a record too many
-  EXPECT_EQ(Fault(FiftyBut(50, "1 2 3 4 5 -6", "1 2 3"), Plain, true),
-            More);                                                  // no room comes before the logarithm
-  EXPECT_EQ(Fault(FiftyBut(50, "1 2 3 x", "1 2 3"), Plain), More);  // an incomplete record is not tested
-  EXPECT_EQ(Fault(FiftyBut(20, "40000 1 2 x", "7 1 2 3"), WithId), NonNumeric);
-  EXPECT_EQ(Fault(FiftyBut(20, "40000 1 2 0", "7 1 2 3"), WithId, true), Fewer);
-  EXPECT_EQ(Fault(FiftyBut(20, "1 2 0 40000", "1 2 3 1"), WithRow, true), Fewer);
-  EXPECT_EQ(Fault(FiftyBut(20, "1 2 0 0", "1 2 3 1"), WithRow, true), NonPositive);
-}
-
-TEST(DataLoad, LogarithmNeedsPositiveSignals)
-{
-  const std::string pairs = FiftyBut(20, "-1 -2 1 2", "0 0 3 4");
-  const RawSurvey survey = DataLoad(pairs, WithS2, true, {});
-  EXPECT_EQ(survey.Signal1[19], 0);
-  EXPECT_EQ(survey.Signal2[19], std::log(2.0));
-  EXPECT_EQ(Fault(FiftyBut(50, "1 2 0 4", "1 2 3 4"), WithS2, true), NonPositive);
-  EXPECT_EQ(Fault(FiftyBut(50, "1 2 3 0", "1 2 3 4"), WithS2, true), NonPositive);
-  EXPECT_EQ(Fault(FiftyBut(50, "1 2 -3", "1 2 3"), Plain, true), NonPositive);
-  EXPECT_EQ(DataLoad(FiftyBut(50, "1 2 -3 0", "1 2 3 4"), WithS2, false, {}).Signal1.back(), -3);
-  // An s2 that was not told of shifts the columns: a zero meets the test before the records run over.
-  EXPECT_EQ(Fault(Lines(50, "1 2 3 0"), Plain, true), NonPositive);
-}
-
-TEST(DataLoad, RowsLieInOneToTwoHundredAndFiftyAndNeverFall)
-{
-  const auto rows = [](const char* first, const char* second, const char* rest) {
-    const std::string record = "1 2 3 ";
-    return record + first + "\n" + record + second + "\n" + Lines(48, record + rest);
-  };
-  EXPECT_EQ(Fault(rows("1", "2", "1"), WithRow), BadRows);
-  EXPECT_EQ(Fault(rows("0", "1", "1"), WithRow), BadRows);
-  EXPECT_EQ(Fault(rows("1", "0", "1"), WithRow), BadRows);
-  EXPECT_EQ(Fault(rows("-1", "1", "1"), WithRow), BadRows);
-  EXPECT_EQ(Fault(rows("1", "2", "251"), WithRow), BadRows);
-  EXPECT_EQ(Fault(rows("251", "251", "251"), WithRow), BadRows);
-  EXPECT_EQ(DataLoad(rows("1", "5", "250"), WithRow, false, {}).RowNumber.back(), 250);
+  EXPECT_EQ(CountLines(""), 0U);
+  EXPECT_EQ(CountLines("a\nb\r\nc\rd"), 4U);
+  EXPECT_EQ(CountLines("a\nb\n"), 2U);
+  EXPECT_EQ(CountLines("a\nb\n\n"), 3U);
+  EXPECT_EQ(CountLines("a\n\r"), 2U);
+  EXPECT_EQ(CountLines("a\n "), 2U);
+  EXPECT_EQ(SkipByteOrderMark("1\xEF\xBB\xBF"), "1\xEF\xBB\xBF");
 }
 
 }  // namespace

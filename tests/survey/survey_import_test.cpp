@@ -1,6 +1,5 @@
 #include "survey/survey_import.h"
 
-#include "forms/structure_form.h"
 #include "support/surveys.h"
 #include "support/testing.h"
 
@@ -12,8 +11,7 @@ class SurveyImport : public testing::Test {
   ImportRequest RequestFor(const RawSurvey& survey, const RecordLayout& layout)
   {
     WriteText(directory_ / "raw.txt", RawFileText(survey, layout));
-    return {
-        (directory_ / "raw.txt").string(), layout, {"EMv", "EMh"}, ConductivityUnits::MilliSiemens, false};
+    return {(directory_ / "raw.txt").string(), layout, {"EMv", "EMh"}, ConductivityUnits::DeciSiemens, false};
   }
 
   TemporaryDirectory directory_;
@@ -28,13 +26,27 @@ TEST_F(SurveyImport, EachOfTheEightLayoutsFillsTheRecord)
         if (siteIds) {
           std::ranges::reverse(survey.SiteId);
         }
-        const ImportRequest request = RequestFor(survey, LayoutOf(survey, siteIds));
+        ImportRequest request = RequestFor(survey, LayoutOf(survey, siteIds));
+        request.Log = siteIds;
         SurveyState state = NamedState();
         ImportSurvey(state, request);
-        SurveyState expected = ImportedSurvey(survey);
-        expected.ImportFileName = request.FileName;
-        EXPECT_TRUE(state == expected)
-            << "transect " << transect << ", signals " << signals << ", IDs " << siteIds;
+        SCOPED_TRACE(request.FileName + " " + std::to_string(siteIds) + std::to_string(signals));
+        EXPECT_EQ(state.SiteId, survey.SiteId);
+        EXPECT_EQ(state.CoordX, survey.CoordX);
+        EXPECT_EQ(state.CoordY, survey.CoordY);
+        EXPECT_EQ(state.RowNumber, survey.RowNumber);
+        EXPECT_EQ(state.Signal1.at(7), siteIds ? std::log(survey.Signal1[7]) : survey.Signal1[7]);
+        EXPECT_EQ(state.Signal2.size(), survey.Signal2.size());
+        EXPECT_EQ(state.SiteStatus, std::vector<std::int16_t>(60, site_status::Free));
+        EXPECT_EQ(state.SurveySize, 60);
+        EXPECT_EQ(state.SignalCount, signals);
+        EXPECT_EQ(IsTransect(state), transect);
+        EXPECT_EQ(state.LogTransform, siteIds);
+        EXPECT_EQ(state.SignalUnits, ConductivityUnits::DeciSiemens);
+        EXPECT_EQ(state.SignalLabel[0] + state.SignalLabel[1], "EMvEMh");
+        EXPECT_EQ(state.ImportFileName, request.FileName);
+        EXPECT_TRUE(state.Signals.Correlation.has_value() == (signals == 2) &&
+                    state.Menu.IsEnabled(MenuEntry::mnuStats));
       }
     }
   }
@@ -75,26 +87,6 @@ TEST_F(SurveyImport, OneConstantSignalIsTaken)
   SurveyState state = NamedState();
   ImportSurvey(state, RequestFor(survey, LayoutOf(survey)));
   EXPECT_NEAR(state.Signals.Rows[0].Statistics.Std, 0, 1E-15);
-}
-
-TEST(StructureForm, TransformOverwritesLabelsAndUnitsAreAPair)
-{
-  StructureForm form;
-  EXPECT_EQ(form.Request().Units, ConductivityUnits::MilliSiemens);
-  form.Text1 = "mine";
-  ChooseLogTransform(form, true);
-  ChooseUnits(form, true);
-  form.Transect = form.Check2 = true;
-  const ImportRequest request = form.Request();
-  EXPECT_EQ(request.Labels[0], "log(EMv)");
-  EXPECT_EQ(request.Labels[1], "log(EMh)");
-  EXPECT_EQ(request.Units, ConductivityUnits::DeciSiemens);
-  EXPECT_TRUE(request.Log && request.Layout.Transect && request.Layout.SecondSignal &&
-              !request.Layout.SiteIdColumn);
-  EXPECT_EQ(form.Label9(),
-            "Required Record Order:  site-ID*,  x-cord,  y-cord,  s1,  s2*,  row-num    (* if present)");
-  form.Transect = false;
-  EXPECT_EQ(form.Label9(), "Required Record Order:  site-ID*,  x-cord,  y-cord,  s1,  s2*    (* if present)");
 }
 
 }  // namespace
