@@ -36,7 +36,11 @@ class RunObserver {
   /// A support site was placed (`SupportPlot`).
   virtual void SupportFound(const CandidateSite& site) { PassOn(&RunObserver::SupportFound, site); }
   /// Automatic selection is about to make design k of n. False stops it there.
-  virtual bool NextDesign(int k, int n) { return next_ == nullptr || next_->NextDesign(k, n); }
+  virtual bool NextDesign(int k, int n)
+  {
+    const auto ask = &RunObserver::NextDesign;
+    return next_ == nullptr || (next_->*ask)(k, n);
+  }
   /// The design that automatic selection has just made has this score; none if it could not be made.
   virtual void DesignScored(std::optional<double> score) { PassOn(&RunObserver::DesignScored, score); }
 
