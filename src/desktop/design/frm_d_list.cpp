@@ -2,14 +2,12 @@
 
 #include "desktop/design/frm_srs.h"
 #include "desktop/parts/controls.h"
+#include "desktop/parts/layout.h"
 #include "desktop/program/print_page.h"
 
-#include <QAction>
 #include <QFontDatabase>
-#include <QMenuBar>
 #include <QPlainTextEdit>
 #include <QScreen>
-#include <QVBoxLayout>
 
 #include <array>
 
@@ -41,10 +39,8 @@ void MakePaper(QWidget& widget)
 
 frmDList::frmDList(Program& program, QWidget* parent)
     : ChildWindow(program, parent,
-                  {Name, "Design Level Information", {1500, -350}, "", {}, program.Find<frmSRS>()})
+                  {Name, "Design Level Information", "", {}, program.Find<frmSRS>(), QPoint(1500, -350)})
 {
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
   const auto* design = program.Find<frmSRS>();
   const SrsForm none;
   const SrsForm& form = design != nullptr ? design->Form() : none;
@@ -61,23 +57,16 @@ frmDList::frmDList(Program& program, QWidget* parent)
   const QFontMetrics metrics(listing->font());
   listing->setMinimumSize(metrics.averageCharWidth() * WidestLine,
                           HeightOf(form.Size, metrics, screen()->availableSize().height()));
-  layout->addWidget(listing);
-  layout->setSizeConstraint(QLayout::SetFixedSize);  // also where the window kept its place
-
-  auto* bar = new QMenuBar(this);
-  QMenu* print = bar->addMenu("&Print");
-  print->menuAction()->setObjectName("mnuP");
-  QAction* printLevels = print->addAction("&Print DL Information");
-  printLevels->setObjectName("mnuPrint");
-  printLevels->setShortcut(QKeySequence::Print);
-  QMenu* back = bar->addMenu("&Return");
-  back->menuAction()->setObjectName("mnuE");
-  QAction* done = back->addAction("&Return");
-  done->setObjectName("mnuDone");
-  layout->setMenuBar(bar);
-  connect(printLevels, &QAction::triggered, this,
-          [this, lines] { PrintLines(Shared(), this, windowTitle(), lines); });
-  connect(done, &QAction::triggered, this, [this] { Unload(); });
+  QLayout* whole = Tight(Column({listing}));
+  whole->setSizeConstraint(QLayout::SetFixedSize);  // also where the window kept its place
+  setLayout(whole);
+  SetMenus({
+      {"mnuP", nullptr, "&Print"},
+      {"mnuPrint", "mnuP", "&Print DL Information",
+       [this, lines] { PrintLines(Shared(), this, windowTitle(), lines); }, "Ctrl+P"},
+      {"mnuE", nullptr, "&Return"},
+      {"mnuDone", "mnuE", "&Return", Leaves()},
+  });
 }
 
 }  // namespace veln

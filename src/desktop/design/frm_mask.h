@@ -1,20 +1,20 @@
 #pragma once
 
-#include "desktop/program/child_window.h"
+#include "desktop/program/form_window.h"
 #include "forms/mask_form.h"
 
 class QCheckBox;
 class QLabel;
 class QLayout;
 class QPlainTextEdit;
-class QTableWidget;
 
 namespace veln {
 
 class FilteredEdit;
+class SiteTable;
 
 /// "Manual Sample Site Selection": picks sites by their number.
-class frmMask : public ChildWindow {
+class frmMask : public FormWindow<MaskForm> {
  public:
   static constexpr const char* Name = "frmMask";
 
@@ -23,17 +23,15 @@ class frmMask : public ChildWindow {
  private:
   QLayout* MakeEntry();
   QLayout* MakeAnswer();
-  QLayout* MakeButtons();
   void Act(void (*action)(MaskForm&, SurveyState&));
   void Finish();
-  void Mirror();
+  void Mirror() final;
 
-  MaskForm form_;
   FilteredEdit* number_;
   QLabel* answer_;
   QPlainTextEdit* list_;
   QCheckBox* save_;
-  QTableWidget* sites_;
+  SiteTable* sites_;
 };
 
 }  // namespace veln

@@ -1,77 +1,52 @@
 #include "desktop/design/frm_parse.h"
 
+#include "design/survey_reduction.h"
 #include "desktop/design/frm_srs.h"
+#include "desktop/parts/choices.h"
 #include "desktop/parts/controls.h"
-#include "desktop/parts/text_roles.h"
+#include "desktop/parts/layout.h"
 
 #include <QGridLayout>
-#include <QGroupBox>
-#include <QHBoxLayout>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QVBoxLayout>
 
 namespace veln {
 
 frmParse::frmParse(Program& program, QWidget* parent)
-    : ChildWindow(program, parent,
-                  {Name, "Data Parsing / Stratification Details", {2000, 1500}, "hdoc02", {}}),
-      form_(LoadParseForm(program.State))
+    : FormWindow(program, parent,
+                 {Name, "Data Parsing / Stratification Details", "hdoc02", {}, nullptr, QPoint(2000, 1500)},
+                 LoadParseForm(program.State))
 {
   constexpr int Columns = 3;
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
-  layout->setSpacing(LargeGap);
-  auto* told = new QVBoxLayout;
-  told->setSpacing(SmallGap / 2);
-  told->addWidget(
+  QLabel* told =
       MakeText(this, "Label1",
-               "Based on your EM survey data file sample size, VELN has determined that your survey can "
-               "be parsed into "));
+               "Based on your EM survey data file sample size, VELN has determined that your survey "
+               "can be parsed into ");
   QLabel* count = MakeValueLabel(this, "Label2", "");
   ShowValue(*count, ToQt(form_.Label2()));
-  told->addWidget(count);
-  layout->addLayout(told);
-
-  auto* frame = new QGroupBox("Please Select the Strata that you want VELN to use: ", this);
-  frame->setObjectName("Frame1");
-  auto* grid = new QGridLayout(frame);
-  for (int stratum = 1; stratum <= static_cast<int>(Options); ++stratum) {
-    const auto index = static_cast<std::size_t>(stratum) - 1;
-    auto* option = new QRadioButton(QString("Strata #&%1").arg(stratum), frame);
-    option->setObjectName(QString("Option%1").arg(stratum));
-    option->setAccessibleName(QString("Strata #%1").arg(stratum));
-    option->setEnabled(form_.OptionEnabled(stratum));
-    options_.at(index) = option;
+  auto* grid = new QGridLayout;
+  for (int stratum = 1; stratum <= MostStrata; ++stratum) {
+    QRadioButton* option = MakeOption(this, ("Option" + std::to_string(stratum)).c_str(),
+                                      QString("Strata #&%1").arg(stratum), "", Does(ChooseStratum, stratum));
+    options_.push_back(option);
     grid->addWidget(option, (stratum - 1) / Columns, (stratum - 1) % Columns);
-    connect(option, &QRadioButton::clicked, this, [this, stratum] {
-      Shared().Try([&] { ChooseStratum(form_, stratum); });
-      Mirror();
-    });
   }
-  layout->addWidget(frame);
-
-  auto* buttons = new QHBoxLayout;
-  buttons->addWidget(HelpButton("Command3"));
-  buttons->addStretch();
-  QPushButton* cancel =
-      MakeButton(this, "Command2", "&Cancel", " exit without initializing the parsing algorithm ");
-  QPushButton* invoke =
-      MakeButton(this, "Command1", "&Invoke Parsing",
-                 " initialize the parsing algorithm using the currently selected strata # ");
-  invoke->setDefault(true);
-  buttons->addWidget(cancel);
-  buttons->addWidget(invoke);
-  layout->addLayout(buttons);
-  connect(cancel, &QPushButton::clicked, this, [this] { WayOut(); });
-  connect(invoke, &QPushButton::clicked, this, [this] {
-    Program& shared = Shared();
-    if (auto* design = shared.Find<frmSRS>(); design != nullptr) {
-      design->Act([&](SrsForm& srs) { veln::InvokeParsing(form_, srs, shared.Ask()); });
-    }
-    Unload();
-  });
+  SetColumn(*this,
+            {Column({told, count}, SmallGap / 2),
+             Frame(this, "Frame1", "Please Select the Strata that you want VELN to use: ", grid),
+             ButtonRow({HelpButton("Command3"),
+                        MakeButton(this, "Command2", "&Cancel",
+                                   " exit without initializing the parsing algorithm ", Leaves()),
+                        MakeButton(this, "Command1", "&Invoke Parsing",
+                                   " initialize the parsing algorithm using the currently selected strata # ",
+                                   [this] { Invoke(); })})});
   Mirror();
+}
+
+void frmParse::Invoke()
+{
+  if (auto* design = Shared().Find<frmSRS>(); design != nullptr) {
+    design->Act([this](SrsForm& srs) { InvokeParsing(form_, srs, Shared().Ask()); });
+  }
+  Unload();
 }
 
 void frmParse::WayOut()
@@ -85,9 +60,8 @@ void frmParse::WayOut()
 void frmParse::Mirror()
 {
   for (std::size_t i = 0; i < options_.size(); ++i) {
-    const bool chosen = static_cast<int>(i) == form_.StrataChoice;
-    options_.at(i)->setChecked(chosen);
-    SetRole(*options_.at(i), chosen ? TextRole::Chosen : TextRole::Normal);
+    const int stratum = static_cast<int>(i) + 1;
+    ShowChoice(*options_[i], stratum == form_.StrataChoice + 1, form_.OptionEnabled(stratum));
   }
 }
 

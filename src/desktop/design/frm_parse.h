@@ -1,16 +1,16 @@
 #pragma once
 
-#include "desktop/program/child_window.h"
+#include "desktop/program/form_window.h"
 #include "forms/reduction_form.h"
 
-#include <array>
+#include <vector>
 
 class QRadioButton;
 
 namespace veln {
 
 /// "Data Parsing / Stratification Details": the stratum of the next design.
-class frmParse : public ChildWindow {
+class frmParse : public FormWindow<ParseForm> {
  public:
   static constexpr const char* Name = "frmParse";
 
@@ -20,12 +20,10 @@ class frmParse : public ChildWindow {
   void WayOut() override;
 
  private:
-  static constexpr std::size_t Options = 9;
+  void Invoke();
+  void Mirror() final;
 
-  void Mirror();
-
-  ParseForm form_;
-  std::array<QRadioButton*, Options> options_{};
+  std::vector<QRadioButton*> options_;  // by stratum
 };
 
 }  // namespace veln

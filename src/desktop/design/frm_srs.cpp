@@ -4,26 +4,19 @@
 #include "desktop/design/frm_parse.h"
 #include "desktop/design/frm_srs_observer.h"
 #include "desktop/design/frm_srs_opt.h"
+#include "desktop/design/run_status.h"
 #include "desktop/design/site_table.h"
 #include "desktop/parts/choices.h"
 #include "desktop/parts/controls.h"
 #include "desktop/parts/drawing_view.h"
+#include "desktop/parts/fields.h"
+#include "desktop/parts/layout.h"
 #include "forms/design_table.h"
 #include "forms/reduction_form.h"
 
-#include <QAction>
-#include <QCheckBox>
-#include <QGroupBox>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QLayout>
-#include <QLineEdit>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QScrollBar>
-#include <QSignalBlocker>
-#include <QTableWidget>
+
+#include <algorithm>
 
 namespace veln {
 
@@ -43,7 +36,7 @@ void frmSRS::UseSettings(const Combination& combination, int strata)
     }
   });
   if (form_.Check3) {
-    CloseParsing();  // its choice would take this one's place
+    Shared().CloseAll<frmParse>();  // its choice would take this one's place
     Act([&](SrsForm& form) {
       ParseForm parse = LoadParseForm(State());
       ChooseStratum(parse, combination.Stratum);
@@ -91,7 +84,7 @@ void frmSRS::Run()
 {
   progress_.Clear();
   {
-    frmSRSObserver observer(*this, progress_);
+    frmSRSObserver observer(*status_, progress_);
     Shared().Try([&] { RunDesign(form_, State(), Shared().Ask(), observer); });
   }
   Mirror();
@@ -135,7 +128,7 @@ void frmSRS::Discard()
 void frmSRS::Select(SelectionScope scope)
 {
   Program& program = Shared();
-  frmSRSObserver observer(*this, progress_);
+  frmSRSObserver observer(*status_, progress_);
   std::optional<SelectionScores> scores;
   const bool ended =
       program.Try([&] { scores = SelectDesigns(form_, State(), scope, program.Ask(), observer); });
@@ -153,23 +146,9 @@ void frmSRS::Select(SelectionScope scope)
   }
 }
 
-void frmSRS::CloseParsing()
-{
-  if (auto* parse = Shared().Find<frmParse>(); parse != nullptr) {
-    parse->Unload();
-  }
-}
-
 void frmSRS::CloseCompanions()
 {
-  const auto close = [](ChildWindow* window) {
-    if (window != nullptr) {
-      window->Unload();
-    }
-  };
-  CloseParsing();
-  close(Shared().Find<frmDList>());
-  close(Shared().Find<frmSRSOpt>());
+  Shared().CloseAll<frmParse, frmDList, frmSRSOpt>();
 }
 
 bool frmSRS::CloseIfAsked()
@@ -182,31 +161,21 @@ bool frmSRS::CloseIfAsked()
   return form_.Closed;
 }
 
-void frmSRS::ShowGrowth()
+std::vector<CandidateSite> frmSRS::ListedSites() const
 {
-  if (view_ != nullptr) {
-    view_->Grown();
+  std::vector<CandidateSite> sites;
+  for (int point = 0; form_.Finished && point < form_.Finished->PointCount(); ++point) {
+    const CandidateSite& site = form_.Finished->Sites.at(static_cast<std::size_t>(point))[0];
+    if (site.Exists()) {
+      sites.push_back(site);
+    }
   }
-}
-
-void frmSRS::KeepStatus(const QString& text)
-{
-  constexpr qsizetype Kept = 20;
-  if (lastStatus_.isEmpty() || lastStatus_.constLast() != text) {
-    lastStatus_.append(text);
-    lastStatus_.remove(0, qMax(qsizetype{0}, lastStatus_.size() - Kept));
-  }
-}
-
-void frmSRS::ShowStatus()
-{
-  ShowValue(*status_, lastStatus_.constLast());
-  status_->setToolTip(lastStatus_.join('\n'));
+  return sites;
 }
 
 void frmSRS::ShowSites()
 {
-  FillSiteTable(*sites_, ListDesignSites(State(), form_.Finished));
+  sites_->ShowSites(ListDesignSites(State(), form_.Finished));
   view_->Ring(std::nullopt);
 }
 
@@ -216,26 +185,22 @@ void frmSRS::RingSite(int row)
     view_->Ring(std::nullopt);
     return;
   }
-  const auto point = sites_->item(row, 0)->text().toUInt() - 1;
-  const CandidateSite& site = form_.Finished->Sites.at(point)[0];
+  const CandidateSite site = ListedSites().at(sites_->RowGiven(row));
   view_->Ring(progress_.Place(site.X, site.Y));
 }
 
 void frmSRS::PointAt(const std::optional<DrawPoint>& place, double pixel)
 {
   constexpr double Reach = 8;  // pixels
-  if (!form_.Finished || !place) {
-    return;
-  }
-  for (int row = 0; row < sites_->rowCount(); ++row) {
-    const auto point = sites_->item(row, 0)->text().toUInt() - 1;
-    const CandidateSite& site = form_.Finished->Sites.at(point)[0];
+  const std::vector<CandidateSite> sites = ListedSites();
+  const auto found = std::ranges::find_if(sites, [&](const CandidateSite& site) {
     const DrawPoint at = progress_.Place(site.X, site.Y);
-    if (qAbs(at.X - place->X) < Reach * pixel && qAbs(at.Y - place->Y) < Reach * pixel) {
-      sites_->selectRow(row);
-      RingSite(row);
-      return;
-    }
+    return place && qAbs(at.X - place->X) < Reach * pixel && qAbs(at.Y - place->Y) < Reach * pixel;
+  });
+  if (found != sites.end()) {
+    const int row = sites_->RowShown(static_cast<std::size_t>(found - sites.begin()));
+    sites_->selectRow(row);
+    RingSite(row);
   }
 }
 
@@ -244,13 +209,14 @@ void frmSRS::Mirror()
   MirrorSettings();
   MirrorState();
   if (!form_.Check3) {
-    CloseParsing();
+    Shared().CloseAll<frmParse>();
   }
   ShowValue(*designNumber_, ToQt(form_.LblDN));
   ShowValue(*sampleSize_, ToQt(form_.LblSS()));
   ShowValue(*signalColumns_, ToQt(form_.LblSC));
-  KeepStatus(ToQt(form_.LblMS));
-  ShowStatus();
+  status_->Keep(ToQt(form_.LblMS));
+  status_->ShowLast();
+  MirrorMenus();
 }
 
 void frmSRS::MirrorSettings()
@@ -261,24 +227,15 @@ void frmSRS::MirrorSettings()
     for (const char* key : {"limited", "ndard", "ull"}) {
       caption.replace(key, QString("&") + key);
     }
-    sizes_.at(index)->setText(caption);
-    sizes_.at(index)->setAccessibleName(ToQt(form_.OptionCaption(size)));
+    SetCaption(*sizes_.at(index), caption);
     ShowChoice(*sizes_.at(index), form_.Size == size, form_.OptionEnabled.at(index));
   }
   ShowChoice(*adjust_, form_.Check1, true);
   ShowChoice(*ignoreTA_, form_.Check2, form_.Check2Enabled);
   ShowChoice(*parsing_, form_.Check3, form_.Check3Enabled);
-  const QSignalBlocker quiet(factorBar_);
-  factorBar_->setValue(form_.HScroll1);
+  ShowNumber(*factorBar_, form_.HScroll1);
   factorText_->setText(ToQt(form_.Text1()));
-  factorCaption_->setVisible(form_.Check1);
-  factorText_->setVisible(form_.Check1);
-  factorBar_->setVisible(form_.Check1);
-  for (std::size_t i = 0; i < reductions_.size(); ++i) {
-    reductions_.at(i)->setEnabled(form_.Reduction.Steps.at(i));
-  }
-  reduce_->setEnabled(form_.Reduction.mnuSRSReduce);
-  recover_->setEnabled(form_.Reduction.mnuSRSRecover);
+  SetShown({factorCaption_, factorText_, factorBar_}, form_.Check1);
 }
 
 void frmSRS::MirrorState()
@@ -286,15 +243,11 @@ void frmSRS::MirrorState()
   const bool ready = !form_.Finished;
   sizeFrame_->setEnabled(ready);
   controlFrame_->setEnabled(ready);
-  options_->setEnabled(ready);
-  levels_->setVisible(ready);
-  run_->setVisible(ready);
-  save_->setVisible(!ready);
-  discard_->setVisible(!ready);
+  SetShown({levels_, run_}, ready);
+  SetShown({save_, discard_}, !ready);
   run_->setDefault(ready);
-  leave_->setText("&" + ToQt(form_.Command3Caption));
+  SetCaption(*leave_, "&" + ToQt(form_.Command3Caption));
   leave_->setToolTip(ToQt(form_.Command3ToolTip));
-  leave_->setAccessibleName(ToQt(form_.Command3Caption));
 }
 
 }  // namespace veln

@@ -1,41 +1,38 @@
 #pragma once
 
-#include "desktop/program/child_window.h"
+#include "desktop/program/form_window.h"
 #include "forms/auto_selection.h"
 #include "forms/progress_view.h"
 #include "forms/srs_form.h"
 
-#include <QStringList>
-
 #include <array>
 #include <functional>
+#include <optional>
+#include <vector>
 
-class QAction;
 class QCheckBox;
 class QGroupBox;
 class QLabel;
 class QLayout;
 class QLineEdit;
-class QMenuBar;
-class QProgressBar;
 class QPushButton;
 class QRadioButton;
 class QScrollBar;
-class QTableWidget;
 
 namespace veln {
 
+class RunStatus;
+class SiteTable;
 class DrawingView;
 
 /// "SRS Sample Site Selection": makes sample designs, one at a time, and shows the algorithm at work. Mirrors
 /// `SrsForm`.
-class frmSRS : public ChildWindow {
+class frmSRS : public FormWindow<SrsForm> {
  public:
   static constexpr const char* Name = "frmSRS";
 
   frmSRS(Program& program, QWidget* parent);
 
-  [[nodiscard]] const SrsForm& Form() const { return form_; }
   /// Does something with the state of the window, as a click in one of its companions does, and shows what
   /// came of it.
   void Act(const std::function<void(SrsForm&)>& action);
@@ -49,36 +46,32 @@ class frmSRS : public ChildWindow {
   bool eventFilter(QObject* object, QEvent* event) override;
 
  private:
-  friend class frmSRSObserver;
-
   void MakeMenus();
-  void MakeHelpMenu(QMenuBar& bar);
   QGroupBox* MakeSizes();
   QGroupBox* MakeControls();
   QLayout* MakeFacts();
   QLayout* MakeButtons();
-  QLayout* MakeStatus();
   QWidget* MakeView();
   QWidget* MakeSiteTable();
   void Run();
   void Save();
   void Discard();
   void Select(SelectionScope scope);
-  void CloseParsing();
   void CloseCompanions();
   /// Closes the window when the rules on available sites have closed its state.
   bool CloseIfAsked();
-  void ShowGrowth();
-  void KeepStatus(const QString& text);
-  void ShowStatus();
+  /// The sites that the table lists.
+  [[nodiscard]] std::vector<CandidateSite> ListedSites() const;
   void ShowSites();
   void RingSite(int row);
   void PointAt(const std::optional<DrawPoint>& place, double pixel);
-  void Mirror();
+  void Mirror() final;
   void MirrorSettings();
   void MirrorState();
 
-  SrsForm form_;
+  /// For an entry: does something with the state of the window that may close it.
+  std::function<void()> Picks(const std::function<void(SrsForm&)>& action);
+
   DrawingView* view_ = nullptr;  // before the picture, which asks for it
   ProgressView progress_;
   QLayout* settings_ = nullptr;
@@ -99,17 +92,8 @@ class frmSRS : public ChildWindow {
   QLabel* designNumber_;
   QLabel* sampleSize_;
   QLabel* signalColumns_;
-  QLabel* status_;
-  QStringList lastStatus_;
-  QTableWidget* sites_;
-  QWidget* selectionBar_;
-  QProgressBar* selectionProgress_;
-  QLabel* selectionText_;
-  QPushButton* stop_;
-  QAction* options_;
-  QAction* reduce_;
-  std::array<QAction*, 4> reductions_{};
-  QAction* recover_;
+  RunStatus* status_;
+  SiteTable* sites_;
 };
 
 }  // namespace veln

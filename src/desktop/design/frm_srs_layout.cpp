@@ -2,55 +2,29 @@
 #include "desktop/design/frm_d_list.h"
 #include "desktop/design/frm_parse.h"
 #include "desktop/design/frm_srs.h"
+#include "desktop/design/run_status.h"
 #include "desktop/design/site_table.h"
 #include "desktop/parts/choices.h"
 #include "desktop/parts/controls.h"
 #include "desktop/parts/drawing_view.h"
+#include "desktop/parts/fields.h"
+#include "desktop/parts/layout.h"
 #include "desktop/program/help_request.h"
 #include "forms/design_table.h"
 #include "forms/reduction_form.h"
 
-#include <QAction>
-#include <QCheckBox>
 #include <QGridLayout>
-#include <QGroupBox>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QLineEdit>
-#include <QMenuBar>
-#include <QProgressBar>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QScrollBar>
-#include <QTableWidget>
-#include <QVBoxLayout>
 
 namespace veln {
 
 namespace {
 
-QAction* AddEntry(QMenu& menu, const char* name, const QString& caption)
-{
-  QAction* action = menu.addAction(caption);
-  action->setObjectName(name);
-  return action;
-}
-
-QMenu* AddSubmenu(QMenu& menu, const char* name, const QString& caption)
-{
-  QMenu* submenu = menu.addMenu(caption);
-  submenu->menuAction()->setObjectName(name);
-  return submenu;
-}
-
 /// One of the facts beside the settings: a caption and its value.
-QLabel* AddFact(QGridLayout& grid, QWidget* parent, const char* name, const QString& caption)
+QLabel* AddFact(QGridLayout& grid, const char* name, const QString& caption)
 {
   const int row = grid.rowCount();
-  auto* text = new QLabel(caption, parent);
-  grid.addWidget(text, row, 0);
-  QLabel* value = MakeValueLabel(parent, name, caption);
-  value->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  grid.addWidget(new QLabel(caption), row, 0);
+  QLabel* value = MakeValueLabel(nullptr, name, caption, Qt::AlignRight);
   grid.addWidget(value, row, 1);
   return value;
 }
@@ -58,28 +32,21 @@ QLabel* AddFact(QGridLayout& grid, QWidget* parent, const char* name, const QStr
 }  // namespace
 
 frmSRS::frmSRS(Program& program, QWidget* parent)
-    : ChildWindow(program, parent, {Name, "SRS Sample Site Selection", {1000, 750}, "hdoc11", {}}),
-      form_(OpenSrs(program.State, program.Ask())),
-      progress_(program.State, [this] { ShowGrowth(); })
+    : FormWindow(program, parent, {Name, "SRS Sample Site Selection", "hdoc11"},
+                 OpenSrs(program.State, program.Ask())),
+      progress_(program.State, [this] {
+        if (view_ != nullptr) {
+          view_->Grown();
+        }
+      })
 {
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
-  layout->setSpacing(SmallGap);
-  auto* left = new QVBoxLayout;
-  left->setSpacing(LargeGap);
-  settings_ = left;
-  left->addLayout(MakeFacts());
-  left->addWidget(MakeSizes());
-  left->addWidget(MakeControls());
-  left->addLayout(MakeButtons());
-  left->addStretch();
-  auto* top = new QHBoxLayout;
-  top->setSpacing(LargeGap);
-  top->addLayout(left);
-  top->addWidget(MakeView(), 1);
-  top->addWidget(MakeSiteTable());
-  layout->addLayout(top, 1);
-  layout->addLayout(MakeStatus());
+  QLayout* facts = MakeFacts();
+  sizeFrame_ = MakeSizes();
+  controlFrame_ = MakeControls();
+  settings_ = Column({facts, sizeFrame_, controlFrame_, MakeButtons(), LayoutItem::Rest()}, LargeGap);
+  QLayout* top = Row({settings_, {MakeView(), 1}, MakeSiteTable()}, LargeGap);
+  status_ = new RunStatus(this);
+  SetColumn(*this, {{top, 1}, status_}, SmallGap);
   MakeMenus();
   if (form_.Closed) {
     Unload();
@@ -92,9 +59,9 @@ frmSRS::frmSRS(Program& program, QWidget* parent)
 QLayout* frmSRS::MakeFacts()
 {
   auto* grid = new QGridLayout;
-  designNumber_ = AddFact(*grid, this, "LblDN", "Design #:");
-  sampleSize_ = AddFact(*grid, this, "LblSS", "Sample Size:");
-  signalColumns_ = AddFact(*grid, this, "LblSC", "Signal Data Columns used in Design:");
+  designNumber_ = AddFact(*grid, "LblDN", "Design #:");
+  sampleSize_ = AddFact(*grid, "LblSS", "Sample Size:");
+  signalColumns_ = AddFact(*grid, "LblSC", "Signal Data Columns used in Design:");
   grid->setColumnStretch(1, 1);
   grid->setColumnMinimumWidth(1, fontMetrics().horizontalAdvance("200"));  // steady from 5 to 20 sites
   return grid;
@@ -102,103 +69,72 @@ QLayout* frmSRS::MakeFacts()
 
 QGroupBox* frmSRS::MakeSizes()
 {
-  constexpr std::array<const char*, 3> Names = {"Option1", "Option2", "Option3"};
-  constexpr std::array<const char*, 3> ToolTips = {" select 6 sample sites ", " select 12 sample sites ",
-                                                   " select 20 sample sites "};
-  sizeFrame_ = new QGroupBox("Sample Size Settings", this);
-  sizeFrame_->setObjectName("Frame1");
-  auto* column = new QVBoxLayout(sizeFrame_);
-  for (const DesignSize size : {DesignSize::Limited, DesignSize::Standard, DesignSize::Full}) {
-    const auto index = static_cast<std::size_t>(size);
-    auto* option = new QRadioButton(sizeFrame_);
-    option->setObjectName(Names.at(index));
-    option->setToolTip(ToolTips.at(index));
-    column->addWidget(option);
-    sizes_.at(index) = option;
-    connect(option, &QRadioButton::clicked, this,
-            [this, size] { Act([this, size](SrsForm& form) { ChooseSize(form, State(), size); }); });
-  }
-  return sizeFrame_;
+  const auto makeSize = [this](const char* name, const QString& toolTip, DesignSize size) {
+    return MakeOption(this, name, "", toolTip,
+                      [this, size] { Act([&](SrsForm& form) { ChooseSize(form, State(), size); }); });
+  };
+  sizes_ = {makeSize("Option1", " select 6 sample sites ", DesignSize::Limited),
+            makeSize("Option2", " select 12 sample sites ", DesignSize::Standard),
+            makeSize("Option3", " select 20 sample sites ", DesignSize::Full)};
+  return Frame(this, "Frame1", "Sample Size Settings", Column({sizes_[0], sizes_[1], sizes_[2]}));
 }
 
 QGroupBox* frmSRS::MakeControls()
 {
-  constexpr int LargeChange = 5;
-  controlFrame_ = new QGroupBox("Advanced Design Controls", this);
-  controlFrame_->setObjectName("Frame2");
-  auto* grid = new QGridLayout(controlFrame_);
-  adjust_ = MakeCheck(controlFrame_, "Check1", "&Adjust Design Factor",
-                      " change RS design levels by adjusting DF value ");
-  factorText_ = new QLineEdit(controlFrame_);
-  factorText_->setObjectName("Text1");
-  factorText_->setToolTip(" please use the horizontal scroll bar to change design factor value ");
-  factorText_->setReadOnly(true);
-  factorBar_ = new QScrollBar(Qt::Horizontal, controlFrame_);
-  factorBar_->setObjectName("HScroll1");
-  factorBar_->setFocusPolicy(Qt::StrongFocus);
-  factorBar_->setRange(LowestDFactor, HighestDFactor);
-  factorBar_->setPageStep(LargeChange);
-  factorBar_->setInvertedControls(false);  // to the right is more
+  constexpr BarSteps Steps{LowestDFactor, HighestDFactor, 5};
+  constexpr int Digits = 6;
+  adjust_ =
+      MakeCheck(this, "Check1", "&Adjust Design Factor", " change RS design levels by adjusting DF value ",
+                [this](bool on) { Act([on](SrsForm& form) { AdjustDFactor(form, on); }); });
+  factorText_ = MakeShownNumber(
+      this, "Text1", " please use the horizontal scroll bar to change design factor value ", Digits);
+  factorBar_ = MakeBar(this, "HScroll1", Steps, [this](int hundredths) {
+    Act([hundredths](SrsForm& form) { MoveDFactor(form, hundredths); });
+  });
   factorBar_->setAccessibleName("Design factor");
-  factorCaption_ = MakeFieldLabel(controlFrame_, "Label1", "&Value:", factorText_);
-  ignoreTA_ = MakeCheck(controlFrame_, "Check2", "I&gnore TA Information",
-                        " do NOT use any TA information in SRSS algorithm ");
-  parsing_ = MakeCheck(controlFrame_, "Check3", "Invoke &Parsing", " open up the data parsing window  ");
-  for (QWidget* widget : {static_cast<QWidget*>(factorCaption_), static_cast<QWidget*>(factorText_),
-                          static_cast<QWidget*>(factorBar_)}) {
+  factorCaption_ = MakeFieldLabel(this, "Label1", "&Value:", factorText_);
+  ignoreTA_ =
+      MakeCheck(this, "Check2", "I&gnore TA Information", " do NOT use any TA information in SRSS algorithm ",
+                [this](bool on) { Act([on](SrsForm& form) { IgnoreTransition(form, on); }); });
+  parsing_ =
+      MakeCheck(this, "Check3", "Invoke &Parsing", " open up the data parsing window  ", [this](bool on) {
+        Act([on](SrsForm& form) { SwitchParsing(form, on); });
+        if (form_.Check3) {
+          Shared().Show<frmParse>();
+        }
+      });
+  for (QWidget* widget : std::initializer_list<QWidget*>{factorCaption_, factorText_, factorBar_}) {
     KeepRoom(*widget);
   }
-  grid->addWidget(adjust_, 0, 0, 1, 2);
-  grid->addWidget(factorCaption_, 1, 0);
-  grid->addWidget(factorText_, 1, 1);
-  grid->addWidget(factorBar_, 2, 0, 1, 2);
-  grid->addWidget(ignoreTA_, 3, 0, 1, 2);
-  grid->addWidget(parsing_, 4, 0, 1, 2);
-  connect(adjust_, &QCheckBox::toggled, this,
-          [this](bool on) { Act([on](SrsForm& f) { AdjustDFactor(f, on); }); });
-  connect(factorBar_, &QScrollBar::valueChanged, this,
-          [this](int value) { Act([value](SrsForm& f) { MoveDFactor(f, value); }); });
-  connect(ignoreTA_, &QCheckBox::toggled, this,
-          [this](bool on) { Act([on](SrsForm& f) { IgnoreTransition(f, on); }); });
-  connect(parsing_, &QCheckBox::toggled, this, [this](bool on) {
-    Act([on](SrsForm& f) { SwitchParsing(f, on); });
-    if (form_.Check3) {
-      Shared().Show<frmParse>();
-    }
-  });
-  return controlFrame_;
+  return Frame(this, "Frame2", "Advanced Design Controls",
+               Column({adjust_, Row({factorCaption_, factorText_, LayoutItem::Rest()}), factorBar_, ignoreTA_,
+                       parsing_}));
 }
 
+/// The two decisions stand where the run was started.
 QLayout* frmSRS::MakeButtons()
 {
-  auto* column = new QVBoxLayout;
-  levels_ = MakeButton(this, "Command1", "&Display Current SRS Design Levels",
-                       " display a list of the current SRS design levels ");
+  levels_ =
+      MakeButton(this, "Command1", "&Display Current SRS Design Levels",
+                 " display a list of the current SRS design levels ", [this] { Shared().Show<frmDList>(); });
   run_ = MakeButton(this, "Command2", "&Invoke SRSS Algorithm",
-                    " invoke the spatial response surface sampling algorithm ");
+                    " invoke the spatial response surface sampling algorithm ", [this] { Run(); });
   save_ = MakeButton(this, "Command4", "&Save Current Design",
-                     " save the current sample sites to a [rsd#] output file ");
-  discard_ = MakeButton(this, "Command5", "Generate Ne&w Design", " reject the current set of sample sites ");
-  leave_ = MakeButton(this, "Command3", "&Cancel", "");
-  const int large = run_->sizeHint().height() + SmallGap;
-  auto* places = new QGridLayout;  // the two decisions stand where the run was started
+                     " save the current sample sites to a [rsd#] output file ", [this] { Save(); });
+  discard_ = MakeButton(this, "Command5", "Generate Ne&w Design", " reject the current set of sample sites ",
+                        [this] { Discard(); });
+  leave_ = MakeButton(this, "Command3", "&Cancel", "", Leaves());
   for (QPushButton* button : {levels_, run_, save_, discard_}) {
-    button->setMinimumHeight(large);
+    button->setMinimumHeight(button->sizeHint().height() + SmallGap);
     button->installEventFilter(this);
     KeepRoom(*button);
   }
+  auto* places = new QGridLayout;
   places->addWidget(levels_, 0, 0);
   places->addWidget(run_, 1, 0);
   places->addWidget(save_, 0, 0);
   places->addWidget(discard_, 1, 0);
-  column->addLayout(places);
-  column->addWidget(leave_);
-  connect(levels_, &QPushButton::clicked, this, [this] { Shared().Show<frmDList>(); });
-  connect(run_, &QPushButton::clicked, this, [this] { Run(); });
-  connect(save_, &QPushButton::clicked, this, [this] { Save(); });
-  connect(discard_, &QPushButton::clicked, this, [this] { Discard(); });
-  connect(leave_, &QPushButton::clicked, this, [this] { WayOut(); });
-  return column;
+  return Column({places, leave_});
 }
 
 QWidget* frmSRS::MakeView()
@@ -213,8 +149,7 @@ QWidget* frmSRS::MakeView()
 
 QWidget* frmSRS::MakeSiteTable()
 {
-  sites_ = veln::MakeSiteTable(this, State(), ListDesignSites(State(), form_.Finished));
-  sites_->setAccessibleName("Chosen sites");
+  sites_ = new SiteTable(this, "Chosen sites", State(), ListDesignSites(State(), form_.Finished));
   sites_->setMouseTracking(true);
   sites_->viewport()->installEventFilter(this);
   sites_->setSizePolicy(QSizePolicy::Preferred, QSizePolicy::Expanding);  // more room is the map's
@@ -223,97 +158,60 @@ QWidget* frmSRS::MakeSiteTable()
   return sites_;
 }
 
-/// The status line, and at its end the progress of an automatic selection.
-QLayout* frmSRS::MakeStatus()
+std::function<void()> frmSRS::Picks(const std::function<void(SrsForm&)>& action)
 {
-  auto* line = new QHBoxLayout;
-  line->setSpacing(SmallGap);
-  auto* caption = new QLabel("Algorithm Status:", this);
-  status_ = MakeValueLabel(this, "LblMS", "Algorithm Status:");
-  status_->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
-  line->addWidget(caption);
-  line->addWidget(status_, 1);
-
-  selectionBar_ = new QWidget(this);
-  auto* bar = new QHBoxLayout(selectionBar_);
-  bar->setContentsMargins(0, 0, 0, 0);
-  bar->setSpacing(SmallGap);
-  selectionProgress_ = new QProgressBar(selectionBar_);
-  selectionProgress_->setObjectName("selectionProgress");
-  selectionProgress_->setAccessibleName("Designs made");
-  selectionText_ = MakeValueLabel(selectionBar_, "selectionText", "Best score");
-  stop_ =
-      MakeButton(selectionBar_, "Stop", "S&top", "stop the selection and leave everything as it was before");
-  bar->addWidget(selectionProgress_, 1);
-  bar->addWidget(selectionText_, 1);
-  bar->addWidget(stop_);
-  selectionBar_->hide();
-  KeepRoom(*selectionBar_);
-  line->addWidget(selectionBar_, 1);
-  return line;
+  return [this, action] {
+    Act(action);
+    CloseIfAsked();
+    Shared().Changed();
+  };
 }
 
 void frmSRS::MakeMenus()
 {
-  auto* bar = new QMenuBar(this);
-  layout()->setMenuBar(bar);
-  QMenu* options = bar->addMenu("&Options");
-  options_ = options->menuAction();
-  options_->setObjectName("mnuSRSNewOptions");
-  QMenu* automatic = AddSubmenu(*options, "mnuSRSAutoPic", "Invoke SRSS &auto-design selection algorithm");
-  for (const bool limited : {true, false}) {
-    QAction* entry = limited ? AddEntry(*automatic, "mnuSRSAutoLimited", "Invoke &limited ADS Alg")
-                             : AddEntry(*automatic, "mnuSRSAutoFull", "Invoke &full ADS Alg");
-    connect(entry, &QAction::triggered, this,
-            [this, limited] { Select(limited ? SelectionScope::Limited : SelectionScope::Full); });
-  }
-  options->addSeparator();
-  QMenu* reduction = AddSubmenu(*options, "mnuSRSReduce", "&Reduce number of available survey sites");
-  reduce_ = reduction->menuAction();
-  for (std::size_t i = 0; i < ReductionSteps.size(); ++i) {
-    const QString share = QString::number(ReductionSteps.at(i).Percent);
-    reductions_.at(i) = AddEntry(*reduction, ("mnuSRSr" + share).toUtf8(), "Reduce by &" + share + "%");
-    connect(reductions_.at(i), &QAction::triggered, this, [this, factor = ReductionSteps.at(i).Factor] {
-      Act([&](SrsForm& f) { ReduceGridSize(f, State(), factor, Shared().Ask()); });
-      CloseIfAsked();
-      Shared().Changed();
+  const auto reduce = [this](std::size_t step) {
+    return Picks([this, factor = ReductionSteps.at(step).Factor](SrsForm& form) {
+      ReduceGridSize(form, State(), factor, Shared().Ask());
     });
-  }
-  recover_ =
-      AddEntry(*options, "mnuSRSRecover", "Re&cover all available survey sites (removed via Reduction)");
-  connect(recover_, &QAction::triggered, this, [this] {
-    Act([&](SrsForm& f) { RecoverGridSites(f, State(), Shared().Ask()); });
-    CloseIfAsked();
-    Shared().Changed();
-  });
-  options->addSeparator();
-  QMenu* support = AddSubmenu(*options, "mnuSSopt", "&Support sites");
-  for (const bool include : {true, false}) {
-    QAction* entry = include ? AddEntry(*support, "mnuSSinclude", "&Include support sites in design")
-                             : AddEntry(*support, "mnuSSexclude", "&Exclude support sites from design");
-    connect(entry, &QAction::triggered, this,
-            [this, include] { Act([&](SrsForm& f) { IncludeSupport(f, include, Shared().Ask()); }); });
-  }
-  MakeHelpMenu(*bar);
-}
-
-void frmSRS::MakeHelpMenu(QMenuBar& bar)
-{
-  struct HelpEntry {
-    const char* Name;
-    const char* Caption;
-    const char* Document;
   };
-  constexpr std::array<HelpEntry, 3> Entries = {
-      {{"mnuSRSH1", "&What is an SRS sampling desing", "hdoc11"},
-       {"mnuSRSH2", "&Rules for generating SRS designs", "hdoc11b"},
-       {"mnuSRSH3", "&Using the advanced SRS design features", "hdoc11c"}}};
-  QMenu* help = bar.addMenu("&Help");
-  help->menuAction()->setObjectName("mnuSRSH");
-  for (const HelpEntry& entry : Entries) {
-    connect(AddEntry(*help, entry.Name, entry.Caption), &QAction::triggered, this,
-            [this, document = entry.Document] { RequestHelp(Shared(), document); });
-  }
+  const auto offered = [this](std::size_t step) {
+    return [this, step] { return form_.Reduction.Steps.at(step); };
+  };
+  const auto support = [this](bool include) {
+    return Picks([this, include](SrsForm& form) { IncludeSupport(form, include, Shared().Ask()); });
+  };
+  const auto help = [this](const char* document) {
+    return [this, document] { RequestHelp(Shared(), document); };
+  };
+  SetMenus({
+      {"mnuSRSNewOptions", nullptr, "&Options", {}, "", [this] { return !form_.Finished; }},
+      {"mnuSRSAutoPic", "mnuSRSNewOptions", "Invoke SRSS &auto-design selection algorithm"},
+      {"mnuSRSAutoLimited", "mnuSRSAutoPic", "Invoke &limited ADS Alg",
+       [this] { Select(SelectionScope::Limited); }},
+      {"mnuSRSAutoFull", "mnuSRSAutoPic", "Invoke &full ADS Alg", [this] { Select(SelectionScope::Full); }},
+      {"", "mnuSRSNewOptions"},
+      {"mnuSRSReduce",
+       "mnuSRSNewOptions",
+       "&Reduce number of available survey sites",
+       {},
+       "",
+       [this] { return form_.Reduction.mnuSRSReduce; }},
+      {"mnuSRSr50", "mnuSRSReduce", "Reduce by &50%", reduce(0), "", offered(0)},
+      {"mnuSRSr67", "mnuSRSReduce", "Reduce by &67%", reduce(1), "", offered(1)},
+      {"mnuSRSr75", "mnuSRSReduce", "Reduce by &75%", reduce(2), "", offered(2)},
+      {"mnuSRSr80", "mnuSRSReduce", "Reduce by &80%", reduce(3), "", offered(3)},
+      {"mnuSRSRecover", "mnuSRSNewOptions", "Re&cover all available survey sites (removed via Reduction)",
+       Picks([this](SrsForm& form) { RecoverGridSites(form, State(), Shared().Ask()); }), "",
+       [this] { return form_.Reduction.mnuSRSRecover; }},
+      {"", "mnuSRSNewOptions"},
+      {"mnuSSopt", "mnuSRSNewOptions", "&Support sites"},
+      {"mnuSSinclude", "mnuSSopt", "&Include support sites in design", support(true)},
+      {"mnuSSexclude", "mnuSSopt", "&Exclude support sites from design", support(false)},
+      {"mnuSRSH", nullptr, "&Help"},
+      {"mnuSRSH1", "mnuSRSH", "&What is an SRS sampling desing", help("hdoc11")},
+      {"mnuSRSH2", "mnuSRSH", "&Rules for generating SRS designs", help("hdoc11b")},
+      {"mnuSRSH3", "mnuSRSH", "&Using the advanced SRS design features", help("hdoc11c")},
+  });
 }
 
 }  // namespace veln

@@ -1,14 +1,11 @@
 #include "desktop/design/frm_srs_observer.h"
 
-#include "desktop/design/frm_srs.h"
+#include "desktop/design/run_status.h"
 #include "desktop/parts/controls.h"
 #include "forms/progress_view.h"
 #include "toolkit/number_text.h"
 
 #include <QApplication>
-#include <QLabel>
-#include <QProgressBar>
-#include <QPushButton>
 
 namespace veln {
 
@@ -18,8 +15,8 @@ constexpr int RepaintMilliseconds = 17;  // 60 paints a second
 
 }  // namespace
 
-frmSRSObserver::frmSRSObserver(frmSRS& window, ProgressView& picture)
-    : RunObserver(&picture), window_(window), picture_(picture)
+frmSRSObserver::frmSRSObserver(RunStatus& status, ProgressView& picture)
+    : RunObserver(&picture), status_(status), picture_(picture)
 {
   sincePaint_.start();
 }
@@ -47,16 +44,15 @@ void frmSRSObserver::End()
   guard_ = std::make_unique<InputGuard>(nullptr);
   QApplication::processEvents();
   guard_.reset();
-  window_.selectionBar_->hide();
+  status_.HideProgress();
   QGuiApplication::restoreOverrideCursor();
 }
 
 void frmSRSObserver::Status(const std::string& text)
 {
-  window_.KeepStatus(ToQt(text));
+  status_.Keep(ToQt(text));
   if (sincePaint_.elapsed() >= RepaintMilliseconds) {
-    window_.ShowStatus();
-    window_.status_->repaint();
+    status_.ShowLast();
     sincePaint_.restart();
   }
 }
@@ -71,18 +67,15 @@ bool frmSRSObserver::NextDesign(int k, int n)
 {
   if (!guard_) {
     Begin();
-    guard_ = std::make_unique<InputGuard>(window_.stop_);
-    QObject::connect(window_.stop_, &QPushButton::clicked, guard_.get(), [this] { stopped_ = true; });
-    window_.selectionProgress_->setRange(0, n);
-    window_.selectionBar_->show();
-    window_.stop_->setFocus();
+    guard_ = std::make_unique<InputGuard>(&status_.Stop());
+    QObject::connect(&status_.Stop(), &QPushButton::clicked, guard_.get(), [this] { stopped_ = true; });
     sinceStart_.start();
   }
   last_ = k == n;
   picture_.Clear();
   if (k == 1 || sincePaint_.elapsed() >= RepaintMilliseconds) {
     ShowSelection(k, n);
-    window_.ShowStatus();
+    status_.ShowLast();
     QApplication::processEvents();
     sincePaint_.restart();
   }
@@ -102,8 +95,6 @@ void frmSRSObserver::DesignScored(std::optional<double> score)
 void frmSRSObserver::ShowSelection(int k, int n)
 {
   constexpr double Milliseconds = 1000;
-  window_.selectionProgress_->setValue(k - 1);
-  window_.selectionProgress_->setFormat(QString("design %1 of %2").arg(k).arg(n));
   QString text;
   if (best_) {
     text = "best so far " + ToQt(FormatNumber(*best_, "0.000"));
@@ -112,7 +103,7 @@ void frmSRSObserver::ShowSelection(int k, int n)
     const double perDesign = static_cast<double>(sinceStart_.elapsed()) / (k - 1);
     text += ", " + ToQt(FormatNumber(perDesign * (n - k + 1) / Milliseconds, "0")) + " s left";
   }
-  ShowValue(*window_.selectionText_, text);
+  status_.ShowProgress(k, n, text);
 }
 
 }  // namespace veln

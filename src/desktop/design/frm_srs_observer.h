@@ -10,15 +10,15 @@
 
 namespace veln {
 
-class frmSRS;
 class ProgressView;
+class RunStatus;
 
 /// Shows a run in frmSRS as it goes: the picture, which takes what is to be drawn, the status line, and, for
 /// an automatic selection, its progress. Lets the Stop button, and nothing else, be clicked between the
 /// designs of a selection.
 class frmSRSObserver : public RunObserver {
  public:
-  frmSRSObserver(frmSRS& window, ProgressView& picture);
+  frmSRSObserver(RunStatus& status, ProgressView& picture);
   ~frmSRSObserver() override;
 
   /// The run is over: takes its progress away and drops the clicks and keys that came while it went on.
@@ -35,7 +35,7 @@ class frmSRSObserver : public RunObserver {
   void Begin();
   void ShowSelection(int k, int n);
 
-  frmSRS& window_;
+  RunStatus& status_;
   ProgressView& picture_;
   std::unique_ptr<InputGuard> guard_;
   std::optional<double> best_;

@@ -2,25 +2,17 @@
 
 #include "desktop/design/frm_srs.h"
 #include "desktop/parts/controls.h"
-#include "desktop/parts/text_roles.h"
+#include "desktop/parts/layout.h"
 #include "desktop/parts/text_table.h"
 #include "desktop/program/print_page.h"
 #include "forms/auto_selection.h"
 #include "toolkit/file_store.h"
 #include "toolkit/number_text.h"
 
-#include <QAction>
 #include <QClipboard>
-#include <QGroupBox>
 #include <QGuiApplication>
-#include <QHBoxLayout>
 #include <QHeaderView>
-#include <QItemSelectionModel>
-#include <QMenuBar>
-#include <QPushButton>
 #include <QShortcut>
-#include <QTableWidget>
-#include <QVBoxLayout>
 
 #include <utility>
 
@@ -28,16 +20,31 @@ namespace veln {
 
 namespace {
 
+/// A row for each stratum, a column for each D-factor.
+TextTable TableOf(const SelectionScores& scores)
+{
+  constexpr double Hundredths = 100;
+  TextTable table{{""}, {}};
+  for (int f = 1; f <= DFactorCount; ++f) {
+    table.Headings.push_back("F= " + FormatNumber(DFactorOf(f) / Hundredths, "0.00"));
+  }
+  for (int stratum = 1; stratum <= MostStrata; ++stratum) {
+    std::vector<std::string> cells = {"Strata" + NumberToString(stratum)};
+    for (int f = 1; f <= DFactorCount; ++f) {
+      const auto& score = ScoreOf(scores, {stratum, f});
+      cells.push_back(score ? FormatNumber(*score, "0.000") : "");
+    }
+    table.Rows.push_back(std::move(cells));
+  }
+  return table;
+}
+
 QGroupBox* MakeResult(QWidget* parent, const char* frameName, const QString& title, const char* labelName,
                       const std::string& text)
 {
-  auto* frame = new QGroupBox(title, parent);
-  frame->setObjectName(frameName);
-  auto* column = new QVBoxLayout(frame);
-  QLabel* label = MakeText(frame, labelName, ToQt(text));
+  QLabel* label = MakeText(parent, labelName, ToQt(text));
   label->setAccessibleName(ToQt(text));
-  column->addWidget(label);
-  return frame;
+  return Frame(parent, frameName, title, Column({label}));
 }
 
 /// A line of a CSV file. No heading and no score holds a comma or a quote.
@@ -63,32 +70,25 @@ QColor BestTone(const QPalette& palette)
 }  // namespace
 
 frmSRSOpt::frmSRSOpt(Program& program, QWidget* parent, const SelectionScores& scores)
-    : ChildWindow(program, parent, {Name, "Sample Design Optimization Results", {1500, 1000}, "", {}}),
+    : ChildWindow(program, parent,
+                  {Name, "Sample Design Optimization Results", "", {}, nullptr, QPoint(1500, 1000)}),
       scores_(scores),
-      summary_(SummariseScores(scores_))
+      summary_(SummariseScores(scores_)),
+      table_(TableOf(scores_))
 {
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
-  layout->setSpacing(LargeGap);
-  layout->addWidget(MakeResult(this, "Frame1", "Best Design (based on minimum Optimization Criteria value)",
-                               "lblBest", BestDesignText(summary_)));
-  layout->addWidget(MakeResult(this, "Frame2",
-                               "Number of Acceptable Designs (i.e., below 1.3 or within 10% of Best Design)",
-                               "lblAccpt", AcceptableText(summary_)));
-  QLabel* caption = MakeText(
+  QLabel* caption = MakeLine(
       this, "Label1", "Optimization Criteria Scores for various Desing Factor / Grid Parsing Combinations");
-  caption->setWordWrap(false);
-  auto* table = new QVBoxLayout;
-  table->setSpacing(SmallGap);
-  table->addWidget(caption);
   grid_ = new QTableWidget(MostStrata, DFactorCount, this);
   grid_->setObjectName("FGopt");
   grid_->setAccessibleName("Scores by strata and D-factor");
-  table->addWidget(grid_, 1);
-  layout->addLayout(table, 1);
   FillGrid();
-
-  layout->addLayout(MakeButtons());
+  SetColumn(*this, {MakeResult(this, "Frame1", "Best Design (based on minimum Optimization Criteria value)",
+                               "lblBest", BestDesignText(summary_)),
+                    MakeResult(this, "Frame2",
+                               "Number of Acceptable Designs (i.e., below 1.3 or within 10% of Best Design)",
+                               "lblAccpt", AcceptableText(summary_)),
+                    {Column({caption, {grid_, 1}}), 1},
+                    MakeButtons()});
   program.OnChange(this, [this] { ShowUse(); });
   MakeMenus();
   ShowUse();
@@ -96,44 +96,35 @@ frmSRSOpt::frmSRSOpt(Program& program, QWidget* parent, const SelectionScores& s
 
 QLayout* frmSRSOpt::MakeButtons()
 {
-  auto* buttons = new QHBoxLayout;
+  const auto copyText = [this] { QGuiApplication::clipboard()->setText(TabSeparated(table_)); };
+  const auto save = [this] { SaveTable(); };
   QPushButton* copyTable =
-      MakeButton(this, "copyScores", "&Copy", "copy the table as text with tabs (Ctrl+C)");
+      MakeButton(this, "copyScores", "&Copy", "copy the table as text with tabs (Ctrl+C)", copyText);
   QPushButton* saveTable =
-      MakeButton(this, "saveScores", "&Save as CSV...", "save the table for a spreadsheet (Ctrl+S)");
+      MakeButton(this, "saveScores", "&Save as CSV...", "save the table for a spreadsheet (Ctrl+S)", save);
   use_ = MakeButton(this, "useSettings", "&Use these settings",
-                    "set D-factor and stratum of the chosen score in the design window");
+                    "set D-factor and stratum of the chosen score in the design window", [this] {
+                      auto* design = Shared().Find<frmSRS>();
+                      if (const auto chosen = Chosen(); chosen && design != nullptr) {
+                        design->UseSettings(*chosen, scores_.pnum);
+                      }
+                    });
   use_->setDefault(true);
-  buttons->addWidget(copyTable);
-  buttons->addWidget(saveTable);
-  buttons->addStretch();
-  buttons->addWidget(use_);
-  const auto copyText = [this] { QGuiApplication::clipboard()->setText(TabSeparated(Table())); };
-  connect(copyTable, &QPushButton::clicked, this, copyText);
-  connect(saveTable, &QPushButton::clicked, this, [this] { SaveTable(); });
   connect(new QShortcut(QKeySequence::Copy, this), &QShortcut::activated, this, copyText);
-  connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, [this] { SaveTable(); });
+  connect(new QShortcut(QKeySequence::Save, this), &QShortcut::activated, this, save);
   connect(grid_, &QTableWidget::itemSelectionChanged, this, [this] { ShowUse(); });
-  connect(use_, &QPushButton::clicked, this, [this] {
-    auto* design = Shared().Find<frmSRS>();
-    if (const auto chosen = Chosen(); chosen && design != nullptr) {
-      design->UseSettings(*chosen, scores_.pnum);
-    }
-  });
-  return buttons;
+  return Row({copyTable, saveTable, LayoutItem::Rest(), use_});
 }
 
 void frmSRSOpt::FillGrid()
 {
-  constexpr double Hundredths = 100;
   for (int f = 1; f <= DFactorCount; ++f) {
-    grid_->setHorizontalHeaderItem(
-        f - 1, new QTableWidgetItem(ToQt("F= " + FormatNumber(DFactorOf(f) / Hundredths, "0.00"))));
-  }
-  for (int stratum = 1; stratum <= MostStrata; ++stratum) {
-    grid_->setVerticalHeaderItem(stratum - 1, new QTableWidgetItem(ToQt("Strata" + NumberToString(stratum))));
-    for (int f = 1; f <= DFactorCount; ++f) {
-      grid_->setItem(stratum - 1, f - 1, MakeCell({stratum, f}));
+    const auto column = static_cast<std::size_t>(f);
+    grid_->setHorizontalHeaderItem(f - 1, new QTableWidgetItem(ToQt(table_.Headings[column])));
+    for (int stratum = 1; stratum <= MostStrata; ++stratum) {
+      const auto& cells = table_.Rows[static_cast<std::size_t>(stratum) - 1];
+      grid_->setVerticalHeaderItem(stratum - 1, new QTableWidgetItem(ToQt(cells[0])));
+      grid_->setItem(stratum - 1, f - 1, MakeScore({stratum, f}, cells[column]));
     }
   }
   grid_->setSelectionMode(QAbstractItemView::SingleSelection);
@@ -149,13 +140,10 @@ void frmSRSOpt::FillGrid()
   grid_->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
 }
 
-QTableWidgetItem* frmSRSOpt::MakeCell(const Combination& combination) const
+QTableWidgetItem* frmSRSOpt::MakeScore(const Combination& combination, const std::string& text) const
 {
-  const auto& score = ScoreOf(scores_, combination);
-  auto* cell = new QTableWidgetItem(score ? ToQt(FormatNumber(*score, "0.000")) : QString());
-  cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  cell->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-  const bool acceptable = IsAcceptable(summary_, score);
+  QTableWidgetItem* cell = MakeCell(ToQt(text));
+  const bool acceptable = IsAcceptable(summary_, ScoreOf(scores_, combination));
   QFont font = grid_->font();
   font.setBold(acceptable);
   cell->setFont(font);
@@ -186,47 +174,28 @@ void frmSRSOpt::changeEvent(QEvent* event)
 
 void frmSRSOpt::MakeMenus()
 {
-  auto* bar = new QMenuBar(this);
-  QMenu* print = bar->addMenu("&Print");
-  print->menuAction()->setObjectName("mnuSRSOprint");
-  QAction* printResults = print->addAction("&Print Design Optimization Info");
-  printResults->setObjectName("mnuSRSOpinfo");
-  printResults->setShortcut(QKeySequence::Print);
-  QMenu* back = bar->addMenu("&Return");
-  back->menuAction()->setObjectName("mnuSRSOR");
-  QAction* done = back->addAction("&Return to SRS Sample Site Selection Window");
-  done->setObjectName("mnuSRSOReturn");
-  layout()->setMenuBar(bar);
-  connect(printResults, &QAction::triggered, this, [this] {
-    PrintTable(Shared(), this, windowTitle(), Table(),
-               {ToQt(BestDesignText(summary_)), ToQt(AcceptableText(summary_))});
+  SetMenus({
+      {"mnuSRSOprint", nullptr, "&Print"},
+      {"mnuSRSOpinfo", "mnuSRSOprint", "&Print Design Optimization Info",
+       [this] {
+         PrintTable(Shared(), this, windowTitle(), table_,
+                    {ToQt(BestDesignText(summary_)), ToQt(AcceptableText(summary_))});
+       },
+       "Ctrl+P"},
+      {"mnuSRSOR", nullptr, "&Return"},
+      {"mnuSRSOReturn", "mnuSRSOR", "&Return to SRS Sample Site Selection Window", Leaves()},
   });
-  connect(done, &QAction::triggered, this, [this] { Unload(); });
 }
 
-TextTable frmSRSOpt::Table() const
-{
-  TextTable table{{""}, {}};
-  for (int column = 0; column < grid_->columnCount(); ++column) {
-    table.Headings.push_back(FromQt(grid_->horizontalHeaderItem(column)->text()));
-  }
-  for (int row = 0; row < grid_->rowCount(); ++row) {
-    std::vector<std::string> cells = {FromQt(grid_->verticalHeaderItem(row)->text())};
-    for (int column = 0; column < grid_->columnCount(); ++column) {
-      cells.push_back(FromQt(grid_->item(row, column)->text()));
-    }
-    table.Rows.push_back(std::move(cells));
-  }
-  return table;
-}
-
+/// The combination of the cell selected, if it has a score.
 std::optional<Combination> frmSRSOpt::Chosen() const
 {
-  const auto selected = grid_->selectedItems();
-  if (selected.isEmpty() || selected.constFirst()->text().isEmpty()) {
+  const QModelIndexList selected = grid_->selectionModel()->selectedIndexes();
+  if (selected.isEmpty()) {
     return std::nullopt;
   }
-  return Combination{selected.constFirst()->row() + 1, selected.constFirst()->column() + 1};
+  const Combination chosen{selected.constFirst().row() + 1, selected.constFirst().column() + 1};
+  return ScoreOf(scores_, chosen) ? std::optional(chosen) : std::nullopt;
 }
 
 void frmSRSOpt::SaveTable()
@@ -235,9 +204,8 @@ void frmSRSOpt::SaveTable()
   if (!path) {
     return;
   }
-  const TextTable table = Table();
-  std::string content = CsvLine(table.Headings);
-  for (const auto& row : table.Rows) {
+  std::string content = CsvLine(table_.Headings);
+  for (const auto& row : table_.Rows) {
     content += CsvLine(row);
   }
   Shared().Try([&] { WriteFiles({{*path, content}}); });

@@ -25,17 +25,17 @@ class frmSRSOpt : public ChildWindow {
 
  private:
   void FillGrid();
-  [[nodiscard]] QTableWidgetItem* MakeCell(const Combination& combination) const;
+  [[nodiscard]] QTableWidgetItem* MakeScore(const Combination& combination, const std::string& text) const;
   void TintBest();
   QLayout* MakeButtons();
   void MakeMenus();
-  [[nodiscard]] TextTable Table() const;
   [[nodiscard]] std::optional<Combination> Chosen() const;
   void SaveTable();
   void ShowUse();
 
   SelectionScores scores_;
   SelectionSummary summary_;
+  TextTable table_;  // as shown, printed and saved
   QTableWidget* grid_ = nullptr;
   QPushButton* use_ = nullptr;
 };

@@ -1,15 +1,11 @@
 #include "desktop/design/site_table.h"
 
-#include "desktop/parts/text_table.h"
 #include "toolkit/number_text.h"
 
 #include <QHeaderView>
-#include <QTableWidget>
 
 #include <algorithm>
-#include <cstddef>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace veln {
@@ -30,37 +26,38 @@ std::string WidestText(const SurveyState& state, const std::string& heading)
   return heading == "Site ID" ? GeneralForm(state.SurveySize) : "-00.00";
 }
 
-}  // namespace
-
-QTableWidget* MakeSiteTable(QWidget* parent, const SurveyState& state, const TextTable& sites)
+TextTable WidestRow(const SurveyState& state, const std::vector<std::string>& headings)
 {
-  TextTable widest{sites.Headings, {}};
-  std::vector<std::string> cells;
-  cells.reserve(sites.Headings.size());
-  for (const std::string& heading : sites.Headings) {
-    cells.push_back(WidestText(state, heading));
+  TextTable table{headings, {{}}};
+  for (const std::string& heading : headings) {
+    table.Rows[0].push_back(WidestText(state, heading));
   }
-  widest.Rows.push_back(std::move(cells));
-  QTableWidget* widget = MakeTextTable(parent, "sites", widest);
-  widget->horizontalHeader()->setStretchLastSection(false);
-  widget->horizontalHeader()->setHighlightSections(false);
-  widget->setSortingEnabled(false);  // no room for its arrow, which would go with the first sites
-  widget->resizeColumnsToContents();
-  widget->setSortingEnabled(true);
-  FillSiteTable(*widget, sites);
-  return widget;
+  return table;
 }
 
-void FillSiteTable(QTableWidget& widget, const TextTable& sites)
+}  // namespace
+
+SiteTable::SiteTable(QWidget* parent, const QString& accessibleName, const SurveyState& state,
+                     const TextTable& sites)
+    : TextTableView(parent, "sites", accessibleName, WidestRow(state, sites.Headings))
 {
-  std::vector<int> widths;  // of columns, which never narrow: the window keeps its shape
-  widths.reserve(static_cast<std::size_t>(widget.columnCount()));
-  for (int column = 0; column < widget.columnCount(); ++column) {
-    widths.push_back(widget.columnWidth(column));
+  horizontalHeader()->setStretchLastSection(false);
+  horizontalHeader()->setHighlightSections(false);
+  setSortingEnabled(false);  // no room for its arrow, which would go with the first sites
+  resizeColumnsToContents();
+  setSortingEnabled(true);
+  ShowSites(sites);
+}
+
+void SiteTable::ShowSites(const TextTable& sites)
+{
+  std::vector<int> widths;  // the window keeps its shape
+  for (int column = 0; column < columnCount(); ++column) {
+    widths.push_back(columnWidth(column));
   }
-  FillTextTable(widget, sites);
-  for (int column = 0; column < widget.columnCount(); ++column) {
-    widget.setColumnWidth(column, qMax(widget.columnWidth(column), widths[static_cast<std::size_t>(column)]));
+  Show(sites);
+  for (int column = 0; column < columnCount(); ++column) {
+    setColumnWidth(column, qMax(columnWidth(column), widths[static_cast<std::size_t>(column)]));
   }
 }
 

@@ -1,18 +1,18 @@
 #pragma once
 
-#include "toolkit/text_table.h"
+#include "desktop/parts/text_table.h"
 #include "workspace/survey_state.h"
-
-class QTableWidget;
-class QWidget;
 
 namespace veln {
 
-/// A table of sites of the survey, named "sites", empty at first: its columns are as wide as the largest
-/// numbers of the survey will need them.
-QTableWidget* MakeSiteTable(QWidget* parent, const SurveyState& state, const TextTable& sites);
+/// A table of sites of the survey, named "sites": its columns are as wide as the largest numbers of the
+/// survey will need them, and never narrow.
+class SiteTable : public TextTableView {
+ public:
+  SiteTable(QWidget* parent, const QString& accessibleName, const SurveyState& state, const TextTable& sites);
 
-/// Shows other sites in it.
-void FillSiteTable(QTableWidget& widget, const TextTable& sites);
+  /// Shows other sites.
+  void ShowSites(const TextTable& sites);
+};
 
 }  // namespace veln

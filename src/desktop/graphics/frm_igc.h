@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/program/child_window.h"
+#include "desktop/program/form_window.h"
 #include "forms/igc_form.h"
 
 #include <array>
@@ -16,8 +16,8 @@ class QScrollBar;
 
 namespace veln {
 
-/// "Graphics Initialization": the options of the plots of frmSvyGraph. Mirrors `IgcForm`.
-class frmIGC : public ChildWindow {
+/// "Graphics Initialization": the options of the plots of frmSvyGraph.
+class frmIGC : public FormWindow<IgcForm> {
  public:
   static constexpr const char* Name = "frmIGC";
 
@@ -26,14 +26,13 @@ class frmIGC : public ChildWindow {
  private:
   QLayout* MakeDirection();
   QLayout* MakeChecks();
-  QGroupBox* MakePalettes();
-  void AddPalette(QGridLayout& grid, int number, const QString& caption);
   QLayout* MakeSymbolSize();
+  QGroupBox* MakePalettes();
+  void AddPalette(QGridLayout& grid, int number);
   QGroupBox* MakePlaces();
   void Initialize();
-  void Mirror();
+  void Mirror() final;
 
-  IgcForm form_;
   QLabel* directionCaption_;
   std::array<QRadioButton*, 2> directions_{};
   std::array<QCheckBox*, 5> checks_{};  // `Check1` to `Check5`

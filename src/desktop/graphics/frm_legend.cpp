@@ -2,12 +2,11 @@
 
 #include "desktop/graphics/frm_svy_graph.h"
 #include "desktop/parts/controls.h"
+#include "desktop/parts/layout.h"
 #include "graphics/map_legend.h"
 #include "render/drawing_painter.h"
 
-#include <QLabel>
 #include <QPainter>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <array>
@@ -35,8 +34,7 @@ class LegendView : public QWidget {
     constexpr std::array<const char*, 4> Names = {"Label1", "Label2", "Label3", "Label4"};
     int widest = 0;
     for (std::size_t i = 0; i < Names.size(); ++i) {
-      QLabel* label = MakeText(this, Names.at(i), ToQt(legend.Labels.at(i)));
-      label->setWordWrap(false);
+      QLabel* label = MakeLine(this, Names.at(i), ToQt(legend.Labels.at(i)));
       label->adjustSize();
       const double y = (FirstDot + DotStep * static_cast<double>(i)) / TwipsPerPixel * scale_;
       label->move(qRound(LabelLeft / TwipsPerPixel * scale_), qRound(y - label->height() / 2.0));
@@ -71,16 +69,14 @@ const MapLegend& EmptyLegend()
 
 frmLegend::frmLegend(Program& program, QWidget* parent)
     : ChildWindow(program, frmSvyGraph::OwnerOfCompanions(program, parent),
-                  {Name, "", {1000, 500}, "", {}, program.Find<frmSvyGraph>()})
+                  {Name, "", "", {}, program.Find<frmSvyGraph>(), QPoint(1000, 500)})
 {
   const auto* window = program.Find<frmSvyGraph>();
   const MapLegend legend =
       window == nullptr ? EmptyLegend() : LoadLegend(window->Graph().Options, window->Graph().MapTag);
   setWindowTitle(ToQt(legend.Caption));
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(0, 0, 0, 0);
-  layout->setSizeConstraint(QLayout::SetFixedSize);
-  layout->addWidget(new LegendView(this, legend));
+  setLayout(Tight(Column({new LegendView(this, legend)})));
+  layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 }  // namespace veln

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/program/child_window.h"
+#include "desktop/program/form_window.h"
 #include "forms/pct_form.h"
 
 #include <array>
@@ -15,7 +15,7 @@ class QScrollBar;
 namespace veln {
 
 /// "Coordinate Translation Options": changes the survey's coordinates for good. Mirrors `PctForm`.
-class frmPCT : public ChildWindow {
+class frmPCT : public FormWindow<PctForm> {
  public:
   static constexpr const char* Name = "frmPCT";
 
@@ -24,9 +24,8 @@ class frmPCT : public ChildWindow {
  private:
   QLayout* MakeRotation();
   void Apply();
-  void Mirror();
+  void Mirror() final;
 
-  PctForm form_;
   std::array<QRadioButton*, 4> options_{};
   QLabel* degreesCaption_;
   QScrollBar* degreesBar_;

@@ -4,38 +4,20 @@
 #include "desktop/graphics/picture_dialog.h"
 #include "desktop/parts/controls.h"
 #include "desktop/parts/drawing_view.h"
+#include "desktop/parts/layout.h"
 #include "desktop/program/help_request.h"
+#include "desktop/program/print_page.h"
 #include "render/drawing_painter.h"
 #include "toolkit/refusal.h"
 
-#include <QAction>
-#include <QLabel>
-#include <QMenu>
-#include <QMenuBar>
 #include <QPainter>
 #include <QPrinter>
-#include <QVBoxLayout>
 
 #include <array>
 
 namespace veln {
 
 namespace {
-
-QAction* AddEntry(QMenu& menu, const char* name, const QString& caption, const QKeySequence& shortcut = {})
-{
-  QAction* action = menu.addAction(caption);
-  action->setObjectName(name);
-  action->setShortcut(shortcut);
-  return action;
-}
-
-QMenu* AddMenu(QMenuBar& bar, const char* name, const QString& caption)
-{
-  QMenu* menu = bar.addMenu(caption);
-  menu->menuAction()->setObjectName(name);
-  return menu;
-}
 
 /// A drawing on the white paper that it lies on.
 Drawing OnPaper(const Drawing& map)
@@ -49,77 +31,64 @@ Drawing OnPaper(const Drawing& map)
 }  // namespace
 
 frmSiteMap::frmSiteMap(Program& program, QWidget* parent)
-    : ChildWindow(program, parent,
-                  {Name, " Sample Site Map Display", {1000, 750}, "hdoc18", MenuEntry::mnuSHowMap}),
-      form_(LoadSiteMap(program.State))
+    : FormWindow(program, parent, {Name, " Sample Site Map Display", "hdoc18", MenuEntry::mnuSHowMap},
+                 LoadSiteMap(program.State))
 {
   constexpr double TitleScale = 1.3;
   constexpr int SmallestMap = 520;
-  title_ = MakeValueLabel(this, "lblSMT", "");
+  title_ = MakeValueLabel(this, "lblSMT", "", Qt::AlignHCenter);
   QFont bold = title_->font();
   bold.setBold(true);
   bold.setPointSizeF(bold.pointSizeF() * TitleScale);
   title_->setFont(bold);
-  title_->setAlignment(Qt::AlignCenter);
   map_ = new DrawingView(this);
   map_->setObjectName("MGrid");
   map_->setMinimumSize(SmallestMap, SmallestMap);
   map_->setFocusPolicy(Qt::StrongFocus);  // a screen reader comes to its description
   map_->setAccessibleName("Map of the sample sites");
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
-  layout->setSpacing(SmallGap);
-  layout->addWidget(title_);
-  layout->addWidget(map_, 1);
+  SetColumn(*this, {title_, {map_, 1}}, SmallGap);
   MakeMenus();
   Mirror();
 }
 
 void frmSiteMap::MakeMenus()
 {
-  auto* bar = new QMenuBar(this);
-  MakeDesignMenus(*bar);
-  MakePrintMenu(*bar);
-  QMenu* help = AddMenu(*bar, "mnusubH", "&Help");
-  connect(AddEntry(*help, "mnusubSSMHelp", "&Navigating the Map Display Menu"), &QAction::triggered, this,
-          [this] { RequestHelp(Shared(), "hdoc18"); });
-  QMenu* back = AddMenu(*bar, "mnusubR", "&Return");
-  connect(AddEntry(*back, "mnusubRx", "&Close Map Display Window"), &QAction::triggered, this,
-          [this] { Unload(); });
-  layout()->setMenuBar(bar);
+  std::vector<MenuLine> lines = DesignLines();
+  const std::vector<MenuLine> others = {
+      {"mnusubP", nullptr, "&Print"},
+      {"mnusubPrintD", "mnusubP", "&Print currently displayed Sample Design", [this] { Print(); }, "Ctrl+P"},
+      {"mnusubSaveAsBit", "mnusubP", "Save as &Bitmap", [this] { SaveAsBitmap(); }},
+      {"", "mnusubP"},
+      {"savePicture", "mnusubP", "Save p&icture...", [this] { SavePicture(); }, "Ctrl+S"},
+      {"copyPicture", "mnusubP", "&Copy", [this] { Shared().Try([this] { CopyPicture(CurrentPicture()); }); },
+       "Ctrl+C"},
+      {"mnusubH", nullptr, "&Help"},
+      {"mnusubSSMHelp", "mnusubH", "&Navigating the Map Display Menu",
+       [this] { RequestHelp(Shared(), "hdoc18"); }},
+      {"mnusubR", nullptr, "&Return"},
+      {"mnusubRx", "mnusubR", "&Close Map Display Window", Leaves()},
+  };
+  lines.insert(lines.end(), others.begin(), others.end());
+  SetMenus(lines);
 }
 
-void frmSiteMap::MakeDesignMenus(QMenuBar& bar)
+std::vector<MenuLine> frmSiteMap::DesignLines()
 {
-  QMenu* display = AddMenu(bar, "mnusubD", "&Display");
-  QMenu* designs = display->addMenu("&SRS Designs");
-  designs->menuAction()->setObjectName("mnusubSRS");
-  designs->menuAction()->setEnabled(form_.mnusubSRS);
-  for (int number = 1; number <= MaxDesigns; ++number) {
-    const QString digit = QString::number(number);
-    QAction* entry = AddEntry(*designs, ("mnusubRS" + digit).toUtf8(), "SRS Design &" + digit);
-    entry->setEnabled(form_.mnusubRS.at(static_cast<std::size_t>(number) - 1));
-    connect(entry, &QAction::triggered, this, [this, number] { ShowDesign(number); });
+  constexpr std::array<const char*, MaxDesigns> Names = {"mnusubRS1", "mnusubRS2", "mnusubRS3", "mnusubRS4",
+                                                         "mnusubRS5"};
+  std::vector<MenuLine> lines = {
+      {"mnusubD", nullptr, "&Display"},
+      {"mnusubSRS", "mnusubD", "&SRS Designs", {}, "", [this] { return form_.mnusubSRS; }},
+  };
+  for (std::size_t i = 0; i < Names.size(); ++i) {
+    const int number = static_cast<int>(i) + 1;
+    lines.push_back({Names.at(i), "mnusubSRS", QString("SRS Design &%1").arg(number),
+                     [this, number] { ShowDesign(number); }, "", [this, i] { return form_.mnusubRS.at(i); }});
   }
-  QMenu* custom = display->addMenu("&Custom Designs");
-  custom->menuAction()->setObjectName("mnusubC");
-  QAction* manual = AddEntry(*custom, "mnusubUGD", "&User Generated Design");
-  manual->setEnabled(form_.mnusubUGD);
-  connect(manual, &QAction::triggered, this, [this] { ShowDesign(ManualDesignNumber); });
-}
-
-void frmSiteMap::MakePrintMenu(QMenuBar& bar)
-{
-  QMenu* print = AddMenu(bar, "mnusubP", "&Print");
-  connect(AddEntry(*print, "mnusubPrintD", "&Print currently displayed Sample Design", QKeySequence::Print),
-          &QAction::triggered, this, [this] { Print(); });
-  connect(AddEntry(*print, "mnusubSaveAsBit", "Save as &Bitmap"), &QAction::triggered, this,
-          [this] { SaveAsBitmap(); });
-  print->addSeparator();
-  connect(AddEntry(*print, "savePicture", "Save p&icture...", QKeySequence::Save), &QAction::triggered, this,
-          [this] { SavePicture(); });
-  connect(AddEntry(*print, "copyPicture", "&Copy", QKeySequence::Copy), &QAction::triggered, this,
-          [this] { Shared().Try([this] { CopyPicture(CurrentPicture()); }); });
+  lines.push_back({"mnusubC", "mnusubD", "&Custom Designs"});
+  lines.push_back({"mnusubUGD", "mnusubC", "&User Generated Design",
+                   [this] { ShowDesign(ManualDesignNumber); }, "", [this] { return form_.mnusubUGD; }});
+  return lines;
 }
 
 void frmSiteMap::ShowDesign(int number)

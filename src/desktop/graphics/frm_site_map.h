@@ -1,11 +1,10 @@
 #pragma once
 
-#include "desktop/program/child_window.h"
+#include "desktop/program/form_window.h"
 #include "graphics/site_map.h"
 #include "render/picture_file.h"
 
 class QLabel;
-class QMenuBar;
 class QPrinter;
 
 namespace veln {
@@ -13,7 +12,7 @@ namespace veln {
 class DrawingView;
 
 /// " Sample Site Map Display": one design at a time as a map of the field. Mirrors `SiteMapForm`.
-class frmSiteMap : public ChildWindow {
+class frmSiteMap : public FormWindow<SiteMapForm> {
  public:
   static constexpr const char* Name = "frmSiteMap";
 
@@ -21,8 +20,7 @@ class frmSiteMap : public ChildWindow {
 
  private:
   void MakeMenus();
-  void MakeDesignMenus(QMenuBar& bar);
-  void MakePrintMenu(QMenuBar& bar);
+  [[nodiscard]] std::vector<MenuLine> DesignLines();
   void ShowDesign(int number);
   void Print();
   bool PaintOn(QPrinter& printer) const;
@@ -30,9 +28,8 @@ class frmSiteMap : public ChildWindow {
   void SavePicture();
   /// The map on its paper.
   [[nodiscard]] Picture CurrentPicture() const;
-  void Mirror();
+  void Mirror() final;
 
-  SiteMapForm form_;
   Drawing paper_;  // what MGrid shows
   QLabel* title_;
   DrawingView* map_;

@@ -4,32 +4,18 @@
 #include "desktop/graphics/frm_legend.h"
 #include "desktop/graphics/frm_pct.h"
 #include "desktop/graphics/overlay_chooser.h"
-#include "desktop/graphics/picture_actions.h"
 #include "desktop/graphics/picture_dialog.h"
 #include "desktop/graphics/plot_board.h"
 #include "desktop/parts/busy_pointer.h"
 #include "desktop/parts/controls.h"
-#include "desktop/program/help_request.h"
+#include "desktop/parts/fields.h"
+#include "desktop/parts/layout.h"
 #include "graphics/colour_maps.h"
 #include "graphics/plot_page.h"
-
-#include <QAction>
-#include <QGroupBox>
-#include <QLabel>
-#include <QLineEdit>
-#include <QPushButton>
 
 namespace veln {
 
 namespace {
-
-template <class Window>
-void CloseCompanion(Program& program)
-{
-  if (auto* window = program.Find<Window>()) {
-    window->Unload();
-  }
-}
 
 /// Whether two plots have the same values at their ticks.
 bool SameAxes(const std::pair<PlotAxis, PlotAxis>& before, const Plot& now)
@@ -66,26 +52,13 @@ void frmSvyGraph::Act(const std::function<void(SurveyGraph&)>& action, Effect ef
 
 void frmSvyGraph::WayOut()
 {
-  CloseCompanion<frmIGC>(Shared());
-  CloseCompanion<frmPCT>(Shared());
-  CloseCompanion<frmLegend>(Shared());
-  CloseCompanion<OverlayChooser>(Shared());
+  Shared().CloseAll<frmIGC, frmPCT, frmLegend, OverlayChooser>();
   Unload();
 }
 
 void frmSvyGraph::Select(GraphEntry entry)
 {
   Act([&](SurveyGraph& graph) { SelectGraph(graph, State(), entry, Shared().Dither); }, Effect::Replaces);
-}
-
-void frmSvyGraph::ChooseOverlay()
-{
-  Shared().Show<OverlayChooser>();
-}
-
-void frmSvyGraph::InitializeGraphics()
-{
-  Shared().Show<frmIGC>();
 }
 
 void frmSvyGraph::Translate()
@@ -97,16 +70,11 @@ void frmSvyGraph::Translate()
   }
 }
 
-void frmSvyGraph::ToggleColours()
+void frmSvyGraph::Toggle(bool PlotOptions::* shown)
 {
-  Act([this](SurveyGraph& graph) { SetColourBlindSafe(graph, State(), safeColours_->isChecked()); });
-}
-
-void frmSvyGraph::RedrawFurniture()
-{
-  graph_.Options.ScaleBar = scaleBar_->isChecked();
-  graph_.Options.NorthArrow = northArrow_->isChecked();
+  graph_.Options.*shown = !(graph_.Options.*shown);
   MirrorPlot(false);
+  MirrorMenus();
 }
 
 void frmSvyGraph::SavePicture()
@@ -115,34 +83,9 @@ void frmSvyGraph::SavePicture()
       [this](QWidget* /*main*/) { return new PictureDialog(Shared(), this, CurrentPicture(), "plot"); });
 }
 
-void frmSvyGraph::Copy()
-{
-  Shared().Try([this] { CopyPicture(CurrentPicture()); });
-}
-
-void frmSvyGraph::Print()
-{
-  PrintPicture(Shared(), this, CurrentPicture().Page);
-}
-
-void frmSvyGraph::Preview()
-{
-  PreviewPicture(this, CurrentPicture().Page);
-}
-
-void frmSvyGraph::HelpOnMenu()
-{
-  RequestHelp(Shared(), "hdoc12");
-}
-
-void frmSvyGraph::HelpOnGraphs()
-{
-  RequestHelp(Shared(), "hdoc13");
-}
-
 MapFurniture frmSvyGraph::Furniture() const
 {
-  return {scaleBar_->isChecked(), northArrow_->isChecked() && northArrow_->isEnabled()};
+  return {graph_.Options.ScaleBar, graph_.Options.NorthArrow && NorthArrowOffered(State())};
 }
 
 Picture frmSvyGraph::CurrentPicture() const
@@ -165,9 +108,7 @@ void frmSvyGraph::MirrorPanels()
   statisticsPanel_->setVisible(graph_.Shown.StatisticsPanel);
   legendPanel_->setVisible(graph_.Shown.LegendPanel);
   const LinePanelState& line = graph_.LinePanel;
-  if (row_->text() != ToQt(line.Text1)) {
-    row_->setText(ToQt(line.Text1));
-  }
+  ShowText(*row_, line.Text1);
   rowButtons_[0]->setEnabled(line.Command1Enabled);
   rowButtons_[1]->setEnabled(line.Command2Enabled);
   rowButtons_[5]->setEnabled(line.Command6Enabled);
@@ -183,7 +124,6 @@ void frmSvyGraph::MirrorPanels()
 
 void frmSvyGraph::MirrorPlot(bool fit)
 {
-  northArrow_->setEnabled(NorthArrowOffered(State()));
   board_->Show(graph_.Shown, Furniture(), fit);
   ForgetDeletedSites();
 }

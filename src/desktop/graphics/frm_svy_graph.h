@@ -7,10 +7,8 @@
 
 #include <array>
 #include <functional>
-#include <optional>
-#include <span>
+#include <vector>
 
-class QAction;
 class QGroupBox;
 class QLabel;
 class QLineEdit;
@@ -44,8 +42,7 @@ class frmSvyGraph : public ChildWindow {
   void WayOut() override;
 
  private:
-  struct MenuLine;
-  static std::span<const MenuLine> Menu();
+  [[nodiscard]] std::vector<MenuLine> PlotLines();
   void MakeMenus();
   QWidget* MakePanels();
   QGroupBox* MakeLinePanel();
@@ -53,22 +50,14 @@ class frmSvyGraph : public ChildWindow {
   QGroupBox* MakeLegendPanel();
 
   void Select(GraphEntry entry);
-  void ChooseOverlay();
-  void InitializeGraphics();
   void Translate();
-  void ToggleColours();
-  void RedrawFurniture();
+  /// Switches what stands on the plot besides the sites.
+  void Toggle(bool PlotOptions::* shown);
   void SavePicture();
-  void Copy();
-  void Print();
-  void Preview();
-  void HelpOnMenu();
-  void HelpOnGraphs();
 
   [[nodiscard]] MapFurniture Furniture() const;
   [[nodiscard]] Picture CurrentPicture() const;
   void Mirror();
-  void MirrorMenus();
   void MirrorPanels();
   void MirrorPlot(bool fit);
   void ForgetDeletedSites();
@@ -76,9 +65,6 @@ class frmSvyGraph : public ChildWindow {
   SurveyGraph graph_;
   int deletedSites_ = 0;  // of the survey, when the plot was drawn
   PlotBoard* board_ = nullptr;
-  QAction* scaleBar_ = nullptr;
-  QAction* northArrow_ = nullptr;
-  QAction* safeColours_ = nullptr;
   QGroupBox* linePanel_;
   QLineEdit* row_;
   std::array<QPushButton*, 7> rowButtons_{};  // `Command1` to `Command7`

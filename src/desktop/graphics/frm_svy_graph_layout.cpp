@@ -3,17 +3,12 @@
 #include "desktop/graphics/frm_svy_graph.h"
 #include "desktop/graphics/plot_board.h"
 #include "desktop/parts/controls.h"
+#include "desktop/parts/layout.h"
 #include "graphics/line_plots.h"
 #include "graphics/site_text.h"
 
-#include <QAction>
-#include <QGroupBox>
-#include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
 #include <QLineEdit>
-#include <QPushButton>
-#include <QVBoxLayout>
 
 #include <algorithm>
 #include <utility>
@@ -49,23 +44,19 @@ class RowEdit : public QLineEdit {
 }  // namespace
 
 frmSvyGraph::frmSvyGraph(Program& program, QWidget* parent)
-    : ChildWindow(program, parent,
-                  {Name, "Interactive Survey Graphics Mode", {1000, 750}, "hdoc12", MenuEntry::mnuSG}),
+    : ChildWindow(program, parent, {Name, "Interactive Survey Graphics Mode", "hdoc12", MenuEntry::mnuSG}),
       graph_(LoadSurveyGraph(program.State)),
       deletedSites_(program.State.DeletedSiteCount)
 {
-  auto* layout = new QHBoxLayout(this);
-  layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
-  layout->setSpacing(LargeGap);
-  layout->addWidget(MakePanels());
+  QWidget* panels = MakePanels();
   board_ = new PlotBoard(this);
   board_->Pane().Describe = [this](int site) {
     return ToQt(SiteText(State(), static_cast<std::size_t>(site)));
   };
-  layout->addWidget(board_, 1);
+  SetColumn(*this, {{Row({panels, {board_, 1}}, LargeGap), 1}});
   MakeMenus();
   program.OnChange(this, [this] {
-    northArrow_->setEnabled(NorthArrowOffered(State()));
+    MirrorMenus();
     ForgetDeletedSites();
   });
   MirrorPlot(true);
@@ -77,27 +68,22 @@ frmSvyGraph::frmSvyGraph(Program& program, QWidget* parent)
 QWidget* frmSvyGraph::MakePanels()
 {
   auto* column = new QWidget(this);
-  auto* lines = new QVBoxLayout(column);
-  lines->setContentsMargins(0, 0, 0, 0);
-  lines->setSpacing(LargeGap);
   linePanel_ = MakeLinePanel();
   statisticsPanel_ = MakeStatisticsPanel();
   legendPanel_ = MakeLegendPanel();
   int widest = fontMetrics().horizontalAdvance("u= 0000000.000") + 2 * LargeGap;
   for (QGroupBox* panel : {linePanel_, statisticsPanel_, legendPanel_}) {
     widest = std::max(widest, panel->sizeHint().width());
-    lines->addWidget(panel);
   }
-  lines->addStretch();
+  column->setLayout(
+      Tight(Column({linePanel_, statisticsPanel_, legendPanel_, LayoutItem::Rest()}, LargeGap)));
   column->setFixedWidth(widest);
   return column;
 }
 
 QGroupBox* frmSvyGraph::MakeLinePanel()
 {
-  auto* frame = new QGroupBox("Line Plots", this);
-  frame->setObjectName("Frame1");
-  row_ = new RowEdit(frame, [this](char32_t character) { return KeyInRow(character, Shared().Ask()); });
+  row_ = new RowEdit(this, [this](char32_t character) { return KeyInRow(character, Shared().Ask()); });
   row_->setObjectName("Text1");
   row_->setAccessibleName("Line number");
   row_->setToolTip(
@@ -107,46 +93,28 @@ QGroupBox* frmSvyGraph::MakeLinePanel()
   row_->setMinimumWidth(fontMetrics().horizontalAdvance('0') * Digits + LargeGap);
   connect(row_, &QLineEdit::textChanged, this,
           [this](const QString& text) { graph_.LinePanel.Text1 = FromQt(text); });
-  const std::array<std::pair<const char*, const char*>, 7> faces = {{
-      {"&>>", " increment displayed line number "},
-      {"&<<", " decrement displayed line number "},
-      {"P&lot", " plot the signal data corresponding to the displayed line number "},
-      {"&Refresh", " clear the screen "},
-      {"&Done", " exit the line plotting mode "},
-      {"s&1 Stats", " compute s1 signal statistics for the current line "},
-      {"s&2 Stats", " compute s2 signal statistics for the current line "},
-  }};
-  for (std::size_t i = 0; i < faces.size(); ++i) {
-    const QByteArray name = "Command" + QByteArray::number(static_cast<int>(i) + 1);
-    rowButtons_.at(i) = MakeButton(frame, name, faces.at(i).first, faces.at(i).second);
-  }
+  const auto button = [this](const char* name, const char* caption, const char* toolTip,
+                             const std::function<void(SurveyGraph&)>& action) {
+    return MakeButton(this, name, caption, toolTip, [this, action] { Act(action); });
+  };
+  rowButtons_ = {
+      button("Command1", "&>>", " increment displayed line number ", NextRow),
+      button("Command2", "&<<", " decrement displayed line number ", PreviousRow),
+      button("Command3", "P&lot", " plot the signal data corresponding to the displayed line number ",
+             [this](SurveyGraph& graph) { PlotRow(graph, State(), Shared().Ask()); }),
+      button("Command4", "&Refresh", " clear the screen ", ClearRows),
+      button("Command5", "&Done", " exit the line plotting mode ", LeaveLinePlots),
+      button("Command6", "s&1 Stats", " compute s1 signal statistics for the current line ",
+             [this](SurveyGraph& graph) { ShowRowStats1(graph, State(), Shared().Ask()); }),
+      button("Command7", "s&2 Stats", " compute s2 signal statistics for the current line ",
+             [this](SurveyGraph& graph) { ShowRowStats2(graph, State(), Shared().Ask()); })};
   const int arrow = fontMetrics().horizontalAdvance(">>") + 2 * LargeGap;
   rowButtons_[0]->setMaximumWidth(arrow);
   rowButtons_[1]->setMaximumWidth(arrow);
   rowButtons_[2]->setDefault(true);
-
-  auto* lines = new QVBoxLayout(frame);
-  lines->setSpacing(SmallGap);
-  auto* number = new QHBoxLayout;
-  number->addWidget(rowButtons_[1]);
-  number->addWidget(row_, 1);
-  number->addWidget(rowButtons_[0]);
-  lines->addLayout(number);
-  for (const std::size_t button : {2, 5, 6, 3, 4}) {
-    lines->addWidget(rowButtons_.at(button));
-  }
-  const auto act = [this](std::size_t button, std::function<void(SurveyGraph&)> action) {
-    connect(rowButtons_.at(button), &QPushButton::clicked, this,
-            [this, action = std::move(action)] { Act(action); });
-  };
-  act(0, NextRow);
-  act(1, PreviousRow);
-  act(2, [this](SurveyGraph& graph) { PlotRow(graph, State(), Shared().Ask()); });
-  act(3, ClearRows);
-  act(4, LeaveLinePlots);
-  act(5, [this](SurveyGraph& graph) { ShowRowStats1(graph, State(), Shared().Ask()); });
-  act(6, [this](SurveyGraph& graph) { ShowRowStats2(graph, State(), Shared().Ask()); });
-  return frame;
+  return Frame(this, "Frame1", "Line Plots",
+               Column({Row({rowButtons_[1], {row_, 1}, rowButtons_[0]}), rowButtons_[2], rowButtons_[5],
+                       rowButtons_[6], rowButtons_[3], rowButtons_[4]}));
 }
 
 QGroupBox* frmSvyGraph::MakeStatisticsPanel()
@@ -154,30 +122,23 @@ QGroupBox* frmSvyGraph::MakeStatisticsPanel()
   constexpr std::array<const char*, 9> Names = {"LblT1", "Lblm1",   "Lblv1", "LblT2", "Lblm2",
                                                 "Lblv2", "LblCorr", "Lblr1", "Lblr2"};
   constexpr std::size_t LinesPerBlock = 3;
-  auto* frame = new QGroupBox("Statistics", this);
-  frame->setObjectName("Frame2");
-  auto* lines = new QVBoxLayout(frame);
-  lines->setSpacing(SmallGap / 4);
+  QVBoxLayout* lines = Column({}, SmallGap / 4);
   for (std::size_t i = 0; i < Names.size(); ++i) {
-    statistics_.at(i) = MakeValueLabel(frame, Names.at(i), "");
+    statistics_.at(i) = MakeValueLabel(this, Names.at(i), "");
     if (i > 0 && i % LinesPerBlock == 0) {
       lines->addSpacing(SmallGap);
     }
     lines->addWidget(statistics_.at(i));
   }
-  return frame;
+  return Frame(this, "Frame2", "Statistics", lines);
 }
 
 QGroupBox* frmSvyGraph::MakeLegendPanel()
 {
-  auto* frame = new QGroupBox("Legend", this);
-  frame->setObjectName("Frame3");
-  QPushButton* display =
-      MakeButton(frame, "Command8", "displa&y", " display the colorscale or grayscale legend ");
-  auto* lines = new QVBoxLayout(frame);
-  lines->addWidget(display);
-  connect(display, &QPushButton::clicked, this, [this] { Shared().Show<frmLegend>(); });
-  return frame;
+  return Frame(
+      this, "Frame3", "Legend",
+      Column({MakeButton(this, "Command8", "displa&y", " display the colorscale or grayscale legend ",
+                         [this] { Shared().Show<frmLegend>(); })}));
 }
 
 }  // namespace veln

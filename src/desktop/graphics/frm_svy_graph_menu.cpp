@@ -1,134 +1,103 @@
 // The menus of frmSvyGraph.
+#include "desktop/graphics/frm_igc.h"
 #include "desktop/graphics/frm_svy_graph.h"
-
-#include <QAction>
-#include <QLayout>
-#include <QMenu>
-#include <QMenuBar>
-
-#include <array>
-#include <map>
+#include "desktop/graphics/overlay_chooser.h"
+#include "desktop/graphics/picture_actions.h"
+#include "desktop/program/help_request.h"
+#include "graphics/colour_maps.h"
 
 namespace veln {
 
-/// A submenu, or an entry in one that stands before it.
-struct frmSvyGraph::MenuLine {
-  const char* Name;  ///< empty for a line between entries
-  const char* Menu;  ///< the submenu it stands in; null for the menu bar
-  const char* Caption;
-  std::optional<GraphEntry> Gate = std::nullopt;  ///< what enables it; without one it always is
-  void (frmSvyGraph::*Action)() = nullptr;        ///< none for a submenu, or for one that selects its gate
-  const char* Shortcut = "";
-  bool Checkable = false;
-
-  [[nodiscard]] bool IsLine() const { return *Name == '\0'; }
-  [[nodiscard]] bool IsSubmenu() const
-  {
-    using enum GraphEntry;
-    const bool heading = Gate == mnuScatter || Gate == mnuLine || Gate == mnuHist || Gate == mnuCSG;
-    return heading || (!IsLine() && !Gate && Action == nullptr);
-  }
-};
-
 /// The keys of captions are unique within their menu.
-std::span<const frmSvyGraph::MenuLine> frmSvyGraph::Menu()
+std::vector<MenuLine> frmSvyGraph::PlotLines()
 {
   using enum GraphEntry;
-  static constexpr std::array<MenuLine, 45> Lines = {{
+  const auto open = [this](GraphEntry entry) { return [this, entry] { return graph_.IsEnabled(entry); }; };
+  const auto heading = [&open](const char* name, const char* caption, GraphEntry entry) {
+    return MenuLine{name, "mnuG", caption, {}, "", open(entry)};
+  };
+  const auto plot = [this, &open](const char* name, const char* menu, const char* caption, GraphEntry entry) {
+    return MenuLine{name, menu, caption, [this, entry] { Select(entry); }, "", open(entry)};
+  };
+  return {
       {"mnuG", nullptr, "&Graphics"},
-      {"mnuGrid", "mnuG", "Survey &Grid", mnuGrid},
-      {"mnuScatter", "mnuG", "&Scatter Plots", mnuScatter},
-      {"mnuSs1x", "mnuScatter", "s1 vs &x", mnuSs1x},
-      {"mnuSs1y", "mnuScatter", "s1 vs &y", mnuSs1y},
-      {"mnuSs2x", "mnuScatter", "s&2 vs x", mnuSs2x},
-      {"mnuSs2y", "mnuScatter", "s2 &vs y", mnuSs2y},
-      {"mnuSs1s2", "mnuScatter", "&s1 vs s2", mnuSs1s2},
-      {"mnuSz1z2", "mnuScatter", "&rsd plot", mnuSz1z2},
-      {"mnuLine", "mnuG", "&Line Plots", mnuLine},
-      {"mnuLs1", "mnuLine", "s&1 by row", mnuLs1},
-      {"mnuLs2", "mnuLine", "s&2 by row", mnuLs2},
-      {"mnuLs1s2", "mnuLine", "s1 &and s2 by row", mnuLs1s2},
-      {"mnuHist", "mnuG", "&Histograms", mnuHist},
-      {"mnuHs1", "mnuHist", "&s1", mnuHs1},
-      {"mnuHs2", "mnuHist", "s&2", mnuHs2},
-      {"mnuHz1", "mnuHist", "z&1", mnuHz1},
-      {"mnuHz2", "mnuHist", "&z2", mnuHz2},
-      {"mnuHta", "mnuHist", "&trans analysis", mnuHta},
-      {"mnuCSG", "mnuG", "&ColorScale Grids", mnuCSG},
-      {"mnuVs1", "mnuCSG", "&s1", mnuVs1},
-      {"mnuVs2", "mnuCSG", "s&2", mnuVs2},
-      {"mnuVz1", "mnuCSG", "z&1", mnuVz1},
-      {"mnuVz2", "mnuCSG", "&z2", mnuVz2},
-      {"mnuVta", "mnuCSG", "&trans analysis", mnuVta},
-      {"mnuOSS", "mnuCSG", "&overlay sample sites", mnuOSS, &frmSvyGraph::ChooseOverlay},
-      {"", "mnuG", ""},
-      {"savePicture", "mnuG", "Save &picture...", {}, &frmSvyGraph::SavePicture, "Ctrl+S"},
-      {"copyPicture", "mnuG", "C&opy", {}, &frmSvyGraph::Copy, "Ctrl+C"},
-      {"mnuO", nullptr, "&Options"},
-      {"mnuIGC", "mnuO", "&Initialize Graphic Components", {}, &frmSvyGraph::InitializeGraphics},
-      {"mnuPCT", "mnuO", "&Perform Coordinate Translation", {}, &frmSvyGraph::Translate},
-      {"", "mnuO", ""},
-      {"scaleBar", "mnuO", "&Scale bar", {}, &frmSvyGraph::RedrawFurniture, "", true},
-      {"northArrow", "mnuO", "&North arrow", {}, &frmSvyGraph::RedrawFurniture, "", true},
-      {"safeColours", "mnuO", "Colour-&blind-safe map colours", {}, &frmSvyGraph::ToggleColours, "", true},
-      {"mnuP", nullptr, "&Print"},
-      {"mnuPrint", "mnuP", "&Print Current Graph", {}, &frmSvyGraph::Print, "Ctrl+P"},
-      {"printPreview", "mnuP", "Print Pre&view", {}, &frmSvyGraph::Preview},
-      {"mnuHelp", nullptr, "&Help"},
-      {"mnuGHelp", "mnuHelp", "&OnLine Help"},
-      {"mnuGH1", "mnuGHelp", "&Navigating the Graphics Menu", {}, &frmSvyGraph::HelpOnMenu},
-      {"mnuGH2", "mnuGHelp", "Graph &Descriptions / Information", {}, &frmSvyGraph::HelpOnGraphs},
-      {"mnuR", nullptr, "E&xit"},
-      {"mnuReturn", "mnuR", "&Return to Main VELN Program Menu", {}, &frmSvyGraph::WayOut},
-  }};
-  return Lines;
+      plot("mnuGrid", "mnuG", "Survey &Grid", mnuGrid),
+      heading("mnuScatter", "&Scatter Plots", mnuScatter),
+      plot("mnuSs1x", "mnuScatter", "s1 vs &x", mnuSs1x),
+      plot("mnuSs1y", "mnuScatter", "s1 vs &y", mnuSs1y),
+      plot("mnuSs2x", "mnuScatter", "s&2 vs x", mnuSs2x),
+      plot("mnuSs2y", "mnuScatter", "s2 &vs y", mnuSs2y),
+      plot("mnuSs1s2", "mnuScatter", "&s1 vs s2", mnuSs1s2),
+      plot("mnuSz1z2", "mnuScatter", "&rsd plot", mnuSz1z2),
+      heading("mnuLine", "&Line Plots", mnuLine),
+      plot("mnuLs1", "mnuLine", "s&1 by row", mnuLs1),
+      plot("mnuLs2", "mnuLine", "s&2 by row", mnuLs2),
+      plot("mnuLs1s2", "mnuLine", "s1 &and s2 by row", mnuLs1s2),
+      heading("mnuHist", "&Histograms", mnuHist),
+      plot("mnuHs1", "mnuHist", "&s1", mnuHs1),
+      plot("mnuHs2", "mnuHist", "s&2", mnuHs2),
+      plot("mnuHz1", "mnuHist", "z&1", mnuHz1),
+      plot("mnuHz2", "mnuHist", "&z2", mnuHz2),
+      plot("mnuHta", "mnuHist", "&trans analysis", mnuHta),
+      heading("mnuCSG", "&ColorScale Grids", mnuCSG),
+      plot("mnuVs1", "mnuCSG", "&s1", mnuVs1),
+      plot("mnuVs2", "mnuCSG", "s&2", mnuVs2),
+      plot("mnuVz1", "mnuCSG", "z&1", mnuVz1),
+      plot("mnuVz2", "mnuCSG", "&z2", mnuVz2),
+      plot("mnuVta", "mnuCSG", "&trans analysis", mnuVta),
+      {"mnuOSS", "mnuCSG", "&overlay sample sites", [this] { Shared().Show<OverlayChooser>(); }, "",
+       open(mnuOSS)},
+  };
 }
 
 void frmSvyGraph::MakeMenus()
 {
-  auto* bar = new QMenuBar(this);
-  layout()->setMenuBar(bar);
-  std::map<std::string, QMenu*> menus;
-  for (const MenuLine& line : Menu()) {
-    QWidget* above = bar;
-    if (line.Menu != nullptr) {
-      above = menus.at(line.Menu);
-    }
-    if (line.IsSubmenu()) {
-      auto* menu = new QMenu(line.Caption, above);
-      menu->menuAction()->setObjectName(line.Name);
-      above->addAction(menu->menuAction());
-      menus[line.Name] = menu;
-      continue;
-    }
-    QAction* action = above->addAction(line.Caption);
-    if (line.IsLine()) {
-      action->setSeparator(true);
-      continue;
-    }
-    action->setObjectName(line.Name);
-    action->setShortcut(QKeySequence(line.Shortcut));
-    action->setCheckable(line.Checkable);
-    connect(action, &QAction::triggered, this, [this, &line] {
-      if (line.Action != nullptr) {
-        (this->*line.Action)();
-      } else {
-        Select(*line.Gate);
-      }
-    });
-  }
-  scaleBar_ = findChild<QAction*>("scaleBar");
-  northArrow_ = findChild<QAction*>("northArrow");
-  safeColours_ = findChild<QAction*>("safeColours");
-}
-
-void frmSvyGraph::MirrorMenus()
-{
-  for (const MenuLine& line : Menu()) {
-    if (line.Gate) {
-      findChild<QAction*>(line.Name)->setEnabled(graph_.IsEnabled(*line.Gate));
-    }
-  }
+  const auto help = [this](const char* document) {
+    return [this, document] { RequestHelp(Shared(), document); };
+  };
+  const std::vector<MenuLine> others = {
+      {"", "mnuG"},
+      {"savePicture", "mnuG", "Save &picture...", [this] { SavePicture(); }, "Ctrl+S"},
+      {"copyPicture", "mnuG", "C&opy", [this] { Shared().Try([this] { CopyPicture(CurrentPicture()); }); },
+       "Ctrl+C"},
+      {"mnuO", nullptr, "&Options"},
+      {"mnuIGC", "mnuO", "&Initialize Graphic Components", [this] { Shared().Show<frmIGC>(); }},
+      {"mnuPCT", "mnuO", "&Perform Coordinate Translation", [this] { Translate(); }},
+      {"", "mnuO"},
+      {"scaleBar",
+       "mnuO",
+       "&Scale bar",
+       [this] { Toggle(&PlotOptions::ScaleBar); },
+       "",
+       {},
+       [this] { return graph_.Options.ScaleBar; }},
+      {"northArrow", "mnuO", "&North arrow", [this] { Toggle(&PlotOptions::NorthArrow); }, "",
+       [this] { return NorthArrowOffered(State()); }, [this] { return graph_.Options.NorthArrow; }},
+      {"safeColours",
+       "mnuO",
+       "Colour-&blind-safe map colours",
+       [this] {
+         Act([this](SurveyGraph& graph) {
+           SetColourBlindSafe(graph, State(), !graph.Options.ColourBlindSafe);
+         });
+       },
+       "",
+       {},
+       [this] { return graph_.Options.ColourBlindSafe; }},
+      {"mnuP", nullptr, "&Print"},
+      {"mnuPrint", "mnuP", "&Print Current Graph",
+       [this] { PrintPicture(Shared(), this, CurrentPicture().Page); }, "Ctrl+P"},
+      {"printPreview", "mnuP", "Print Pre&view", [this] { PreviewPicture(this, CurrentPicture().Page); }},
+      {"mnuHelp", nullptr, "&Help"},
+      {"mnuGHelp", "mnuHelp", "&OnLine Help"},
+      {"mnuGH1", "mnuGHelp", "&Navigating the Graphics Menu", help("hdoc12")},
+      {"mnuGH2", "mnuGHelp", "Graph &Descriptions / Information", help("hdoc13")},
+      {"mnuR", nullptr, "E&xit"},
+      {"mnuReturn", "mnuR", "&Return to Main VELN Program Menu", Leaves()},
+  };
+  std::vector<MenuLine> lines = PlotLines();
+  lines.insert(lines.end(), others.begin(), others.end());
+  SetMenus(lines);
 }
 
 }  // namespace veln

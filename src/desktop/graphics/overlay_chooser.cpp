@@ -3,12 +3,8 @@
 #include "desktop/graphics/frm_svy_graph.h"
 #include "desktop/parts/choices.h"
 #include "desktop/parts/controls.h"
+#include "desktop/parts/layout.h"
 #include "graphics/colour_maps.h"
-
-#include <QCheckBox>
-#include <QHBoxLayout>
-#include <QPushButton>
-#include <QVBoxLayout>
 
 #include <algorithm>
 
@@ -16,40 +12,30 @@ namespace veln {
 
 OverlayChooser::OverlayChooser(Program& program, QWidget* parent)
     : ChildWindow(program, frmSvyGraph::OwnerOfCompanions(program, parent),
-                  {Name, "Overlay Sample Sites", {2000, 1500}, "", {}, program.Find<frmSvyGraph>()})
+                  {Name, "Overlay Sample Sites", "", {}, program.Find<frmSvyGraph>(), QPoint(2000, 1500)}),
+      chosen_(ExistingDesigns(program.State))
 {
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
-  layout->setSpacing(SmallGap);
-  layout->addWidget(MakeText(this, "designsLabel", "Sample designs to show:"));
-  const DesignFlags existing = ExistingDesigns(program.State);
+  QVBoxLayout* designs = Column({MakeText(this, "designsLabel", "Sample designs to show:")});
   for (std::size_t i = 0; i < designs_.size(); ++i) {
-    if (!existing.at(i)) {
+    if (!chosen_.at(i)) {
       continue;
     }
-    const QString number = QString::number(i + 1);
+    const std::string number = std::to_string(i + 1);
     const bool manual = i + 1 == designs_.size();
-    designs_.at(i) = MakeCheck(this, ("design" + number).toUtf8(),
-                               manual ? "&User Generated Design" : "SRS Design &" + number);
-    designs_.at(i)->setChecked(true);
-    layout->addWidget(designs_.at(i));
-    connect(designs_.at(i), &QCheckBox::toggled, this, [this] { Mirror(); });
+    designs_.at(i) =
+        MakeCheck(this, ("design" + number).c_str(),
+                  manual ? "&User Generated Design" : "SRS Design &" + ToQt(number), "", [this, i](bool on) {
+                    chosen_.at(i) = on;
+                    Mirror();
+                  });
+    designs->addWidget(designs_.at(i));
   }
-  layout->addSpacing(SmallGap);
-  layout->addStretch();
-  QPushButton* cancel = MakeButton(this, "cancel", "&Cancel", " close without showing any sites ");
+  QPushButton* cancel = MakeButton(this, "cancel", "&Cancel", " close without showing any sites ", Leaves());
   map_ = MakeButton(this, "labelledMap", "&Labelled site map",
-                    " draw a map of the chosen sites with their site numbers ");
-  overlay_ = MakeButton(this, "overlay", "&Overlay on this map", " mark the chosen sites on the map shown ");
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(cancel);
-  buttons->addWidget(map_);
-  buttons->addWidget(overlay_);
-  layout->addLayout(buttons);
-  connect(cancel, &QPushButton::clicked, this, [this] { Unload(); });
-  connect(map_, &QPushButton::clicked, this, [this] { MakeMap(); });
-  connect(overlay_, &QPushButton::clicked, this, [this] { Overlay(); });
+                    " draw a map of the chosen sites with their site numbers ", [this] { MakeMap(); });
+  overlay_ = MakeButton(this, "overlay", "&Overlay on this map", " mark the chosen sites on the map shown ",
+                        [this] { Overlay(); });
+  SetColumn(*this, {designs, LayoutItem::Rest(), ButtonRow({nullptr, cancel, map_, overlay_})});
   Mirror();
 }
 
@@ -60,44 +46,32 @@ void OverlayChooser::Mirror()
     Unload();  // a plot of another kind was chosen meanwhile
     return;
   }
-  const DesignFlags chosen = Chosen();
-  const bool any = std::ranges::find(chosen, true) != chosen.end();
+  const bool any = std::ranges::find(chosen_, true) != chosen_.end();
   overlay_->setEnabled(any && window->Graph().OverlayAllowed());
   map_->setDefault(!window->Graph().OverlayAllowed());
   overlay_->setDefault(window->Graph().OverlayAllowed());
-  for (QCheckBox* design : designs_) {
-    if (design != nullptr) {
-      ShowChoice(*design, design->isChecked());
+  for (std::size_t i = 0; i < designs_.size(); ++i) {
+    if (designs_.at(i) != nullptr) {
+      ShowChoice(*designs_.at(i), chosen_.at(i));
     }
   }
 }
 
-DesignFlags OverlayChooser::Chosen() const
-{
-  DesignFlags chosen{};
-  for (std::size_t i = 0; i < chosen.size(); ++i) {
-    chosen.at(i) = designs_.at(i) != nullptr && designs_.at(i)->isChecked();
-  }
-  return chosen;
-}
-
 void OverlayChooser::Overlay()
 {
-  const DesignFlags chosen = Chosen();
   auto* window = Shared().Find<frmSvyGraph>();
   Unload();
   if (window != nullptr) {
-    window->Act([&](SurveyGraph& graph) { CSOver(graph, State(), chosen); });
+    window->Act([&](SurveyGraph& graph) { CSOver(graph, State(), chosen_); });
   }
 }
 
 void OverlayChooser::MakeMap()
 {
-  const DesignFlags chosen = Chosen();
   auto* window = Shared().Find<frmSvyGraph>();
   Unload();
   if (window != nullptr) {
-    window->Act([&](SurveyGraph& graph) { MakeSSMap(graph, State(), chosen); },
+    window->Act([&](SurveyGraph& graph) { MakeSSMap(graph, State(), chosen_); },
                 frmSvyGraph::Effect::Replaces);
   }
 }

@@ -21,10 +21,10 @@ class OverlayChooser : public ChildWindow {
   void Mirror();
 
  private:
-  [[nodiscard]] DesignFlags Chosen() const;
   void Overlay();
   void MakeMap();
 
+  DesignFlags chosen_;
   std::array<QCheckBox*, 6> designs_{};  // null for those that do not exist
   QPushButton* overlay_;
   QPushButton* map_;

@@ -1,6 +1,6 @@
 #include "desktop/graphics/picture_actions.h"
 
-#include "toolkit/refusal.h"
+#include "desktop/program/print_page.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -9,22 +9,6 @@
 #include <QPrinter>
 
 namespace veln {
-
-bool PrintOnePage(Program& program, QWidget* parent, const std::function<bool(QPrinter& printer)>& paint)
-{
-  bool sent = false;
-  program.Try([&] {
-    QPrinter printer(QPrinter::HighResolution);
-    if (!program.ChoosePrinter(printer, parent)) {
-      return;
-    }
-    if (!paint(printer) || printer.printerState() == QPrinter::Error) {
-      throw Refusal("The page could not be printed.\nThe printer reports an error.");
-    }
-    sent = true;
-  });
-  return sent;
-}
 
 bool PrintPicture(Program& program, QWidget* parent, const Drawing& page)
 {

@@ -9,9 +9,6 @@ namespace veln {
 /// with the reason. True once the page was sent.
 bool PrintPicture(Program& program, QWidget* parent, const Drawing& page);
 
-/// The same for any page: `paint` returns false if the printer could not be painted on.
-bool PrintOnePage(Program& program, QWidget* parent, const std::function<bool(QPrinter& printer)>& paint);
-
 /// Shows how the page would be printed, in a window of its own.
 void PreviewPicture(QWidget* parent, const Drawing& page);
 

@@ -2,16 +2,10 @@
 
 #include "desktop/parts/choices.h"
 #include "desktop/parts/controls.h"
+#include "desktop/parts/layout.h"
 
-#include <QGroupBox>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QSpinBox>
-#include <QVBoxLayout>
 
-#include <algorithm>
 #include <utility>
 
 namespace veln {
@@ -30,66 +24,48 @@ constexpr std::array<OfferedFormat, 3> Formats = {
      {PictureFormat::Svg, "svg", "S&VG (shapes and text)", "SVG pictures (*.svg)"},
      {PictureFormat::Pdf, "pdf", "P&DF (shapes and text)", "PDF files (*.pdf)"}}};
 
+constexpr int FirstWidth = 1600;
+constexpr int WidthStep = 100;
+
 }  // namespace
 
 PictureDialog::PictureDialog(Program& program, QWidget* owner, Picture picture, const char* suffix)
-    : ChildWindow(program, owner, {Name, "Save picture", {2000, 1500}, "", {}, owner}),
+    : ChildWindow(program, owner, {Name, "Save picture", "", {}, owner, QPoint(2000, 1500)}),
       picture_(std::move(picture)),
-      suffix_(suffix)
+      suffix_(suffix),
+      pixels_(FirstWidth)
 {
-  constexpr int FirstWidth = 1600;
-  constexpr int WidthStep = 100;
   setWindowModality(Qt::WindowModal);
-  auto* frame = new QGroupBox("Format", this);
-  auto* options = new QVBoxLayout(frame);
-  options->setSpacing(SmallGap);
+  QVBoxLayout* options = Column({});
   for (std::size_t i = 0; i < Formats.size(); ++i) {
-    formats_.at(i) = MakeOption(frame, Formats.at(i).Name, Formats.at(i).Caption);
+    formats_.at(i) = MakeOption(this, Formats.at(i).Name, Formats.at(i).Caption, "", [this, i] {
+      format_ = i;
+      Mirror();
+    });
     options->addWidget(formats_.at(i));
-    connect(formats_.at(i), &QRadioButton::toggled, this, [this] { Mirror(); });
   }
   width_ = new QSpinBox(this);
   width_->setObjectName("pictureWidth");
   width_->setRange(NarrowestPicture, WidestPicture);
   width_->setSingleStep(WidthStep);
   width_->setSuffix(" pixels");
-  width_->setValue(FirstWidth);
+  width_->setValue(pixels_);
   width_->setToolTip("width of the picture, up to 8000 pixels");
+  connect(width_, &QSpinBox::valueChanged, this, [this](int pixels) { pixels_ = pixels; });
   widthCaption_ = MakeFieldLabel(this, "widthLabel", "&Width:", width_);
-  auto* size = new QHBoxLayout;
-  size->setSpacing(SmallGap);
-  size->addWidget(widthCaption_);
-  size->addWidget(width_, 1);
-  QPushButton* cancel = MakeButton(this, "cancel", "&Cancel", " close without saving ");
-  QPushButton* save = MakeButton(this, "save", "&Save...", " choose the file and save the picture ");
-  save->setDefault(true);
-  auto* buttons = new QHBoxLayout;
-  buttons->addStretch();
-  buttons->addWidget(cancel);
-  buttons->addWidget(save);
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
-  layout->setSpacing(LargeGap);
-  layout->addWidget(frame);
-  layout->addLayout(size);
-  layout->addStretch();
-  layout->addLayout(buttons);
-  connect(cancel, &QPushButton::clicked, this, [this] { Unload(); });
-  connect(save, &QPushButton::clicked, this, [this] { Save(); });
-  formats_.front()->setChecked(true);
-}
-
-std::size_t PictureDialog::Chosen() const
-{
-  const auto* const chosen = std::ranges::find_if(formats_, &QRadioButton::isChecked);
-  return static_cast<std::size_t>(chosen - formats_.begin());
+  SetColumn(*this,
+            {Frame(this, "", "Format", options), Row({widthCaption_, {width_, 1}}), LayoutItem::Rest(),
+             ButtonRow({nullptr, MakeButton(this, "cancel", "&Cancel", " close without saving ", Leaves()),
+                        MakeButton(this, "save", "&Save...", " choose the file and save the picture ",
+                                   [this] { Save(); })})});
+  Mirror();
 }
 
 /// The format that the file's name tells is the one that is written; without one the name gets an extension.
 void PictureDialog::Save()
 {
   Program& program = Shared();
-  const OfferedFormat& offered = Formats.at(Chosen());
+  const OfferedFormat& offered = Formats.at(format_);
   auto file = program.ChooseFile("Save picture", OutputPath(State(), suffix_ + ExtensionOf(offered.Format)),
                                  offered.Filter);
   if (!file || file->empty()) {
@@ -106,17 +82,17 @@ void PictureDialog::Save()
     }
   }
   const PictureFormat format = named.value_or(offered.Format);
-  if (program.Try([&] { SavePicture(picture_, format, width_->value(), *file); })) {
+  if (program.Try([&] { SavePicture(picture_, format, pixels_, *file); })) {
     Unload();
   }
 }
 
 void PictureDialog::Mirror()
 {
-  for (QRadioButton* format : formats_) {
-    ShowChoice(*format, format->isChecked());
+  for (std::size_t i = 0; i < formats_.size(); ++i) {
+    ShowChoice(*formats_.at(i), i == format_);
   }
-  const bool pixels = formats_.front()->isChecked();
+  const bool pixels = Formats.at(format_).Format == PictureFormat::Png;
   width_->setEnabled(pixels);
   widthCaption_->setEnabled(pixels);
 }

@@ -21,12 +21,13 @@ class PictureDialog : public ChildWindow {
   PictureDialog(Program& program, QWidget* owner, Picture picture, const char* suffix);
 
  private:
-  [[nodiscard]] std::size_t Chosen() const;  // the format, from the top
   void Save();
   void Mirror();
 
   Picture picture_;
   std::string suffix_;
+  std::size_t format_ = 0;  // from the top
+  int pixels_;              // across
   std::array<QRadioButton*, 3> formats_{};
   QLabel* widthCaption_;
   QSpinBox* width_;

@@ -1,6 +1,8 @@
 #include "desktop/graphics/plot_board.h"
 
 #include "desktop/parts/controls.h"
+#include "desktop/parts/fields.h"
+#include "desktop/parts/layout.h"
 #include "desktop/parts/text_roles.h"
 
 #include <QEvent>
@@ -16,13 +18,11 @@ constexpr double SmallestFont = 9;  // points
 constexpr double TitleScale = 1.15;
 constexpr int FirstSide = 640;
 
-/// A text box that shows and lets itself be copied.
-QLineEdit* MakeShownText(QWidget* parent, const char* name, const char* accessibleName, Qt::Alignment side)
+/// A text without a frame that can be copied.
+QLineEdit* MakeLabel(QWidget* parent, const char* name, const char* accessibleName, Qt::Alignment side)
 {
-  auto* text = new QLineEdit(parent);
-  text->setObjectName(name);
+  QLineEdit* text = MakeShownText(parent, name);
   text->setAccessibleName(accessibleName);
-  text->setReadOnly(true);
   text->setFocusPolicy(Qt::ClickFocus);  // the plot's description tells them all
   text->setFrame(false);
   text->setAlignment(side | Qt::AlignVCenter);
@@ -30,12 +30,10 @@ QLineEdit* MakeShownText(QWidget* parent, const char* name, const char* accessib
   return text;
 }
 
-void ShowText(QLineEdit& line, const std::string& text)
+void ShowLabel(QLineEdit& label, const std::string& text)
 {
-  if (line.text() != ToQt(text)) {
-    line.setText(ToQt(text));
-    line.setCursorPosition(0);
-  }
+  ShowText(label, text);
+  label.setCursorPosition(0);
 }
 
 }  // namespace
@@ -49,20 +47,20 @@ PlotBoard::PlotBoard(QWidget* parent) : QWidget(parent)
   clear.setColor(QPalette::Base, Qt::transparent);
   setPalette(clear);
 
-  title_ = MakeShownText(this, "txtTitle", "Title", Qt::AlignHCenter);
+  title_ = MakeLabel(this, "txtTitle", "Title", Qt::AlignHCenter);
   QFont titleFont = labelFont;
   titleFont.setPointSizeF(labelFont.pointSizeF() * TitleScale);
   titleFont.setBold(true);
   title_->setFont(titleFont);
   SetRole(*title_, TextRole::Maker);
-  labelsY_ = {MakeShownText(this, "txtMaxY", "Top of the y axis", Qt::AlignRight),
-              MakeShownText(this, "txtMedY", "Middle of the y axis", Qt::AlignRight),
-              MakeShownText(this, "txtMinY", "Bottom of the y axis", Qt::AlignRight)};
+  labelsY_ = {MakeLabel(this, "txtMaxY", "Top of the y axis", Qt::AlignRight),
+              MakeLabel(this, "txtMedY", "Middle of the y axis", Qt::AlignRight),
+              MakeLabel(this, "txtMinY", "Bottom of the y axis", Qt::AlignRight)};
   pane_ = new PlotPane(this);
   pane_->setAccessibleName("Plot");
-  labelsX_ = {MakeShownText(this, "txtMinX", "Left of the x axis", Qt::AlignLeft),
-              MakeShownText(this, "txtMedX", "Middle of the x axis", Qt::AlignHCenter),
-              MakeShownText(this, "txtMaxX", "Right of the x axis", Qt::AlignRight)};
+  labelsX_ = {MakeLabel(this, "txtMinX", "Left of the x axis", Qt::AlignLeft),
+              MakeLabel(this, "txtMedX", "Middle of the x axis", Qt::AlignHCenter),
+              MakeLabel(this, "txtMaxX", "Right of the x axis", Qt::AlignRight)};
   pane_->ViewChanged = [this] { ShowLabels(); };
 }
 
@@ -70,19 +68,19 @@ void PlotBoard::Show(const Plot& plot, const MapFurniture& furniture, bool fit)
 {
   plot_ = &plot;
   pane_->Show(plot, furniture, fit);
-  ShowText(*title_, plot.Title);
+  ShowLabel(*title_, plot.Title);
   ShowLabels();
 }
 
 void PlotBoard::ShowLabels()
 {
   const AxisLabels labels = VisibleLabels(*plot_, pane_->View());
-  ShowText(*labelsX_[0], labels.txtMinX);
-  ShowText(*labelsX_[1], labels.txtMedX);
-  ShowText(*labelsX_[2], labels.txtMaxX);
-  ShowText(*labelsY_[0], labels.txtMaxY);
-  ShowText(*labelsY_[1], labels.txtMedY);
-  ShowText(*labelsY_[2], labels.txtMinY);
+  ShowLabel(*labelsX_[0], labels.txtMinX);
+  ShowLabel(*labelsX_[1], labels.txtMedX);
+  ShowLabel(*labelsX_[2], labels.txtMaxX);
+  ShowLabel(*labelsY_[0], labels.txtMaxY);
+  ShowLabel(*labelsY_[1], labels.txtMedY);
+  ShowLabel(*labelsY_[2], labels.txtMinY);
   pane_->setAccessibleDescription(ToQt(DescribePlot(*plot_, labels)));
   Arrange();
 }
@@ -148,11 +146,11 @@ void PlotBoard::Arrange()
                                 labelHeight);
   }
   const double boxLeft = left + pane_->OnScreen({-BoxEdge, 0}).x();
-  const double boxSide = 2 * BoxEdge * pane_->UnitLength();
+  const double third = 2 * BoxEdge * pane_->UnitLength() / static_cast<double>(labelsX_.size());
   for (std::size_t i = 0; i < labelsX_.size(); ++i) {
-    const double third = boxSide / static_cast<double>(labelsX_.size());
-    labelsX_.at(i)->setGeometry(qRound(boxLeft + third * static_cast<double>(i)), top + side, qRound(third),
-                                labelHeight);
+    const int from = qRound(boxLeft + third * static_cast<double>(i));
+    const int to = qRound(boxLeft + third * static_cast<double>(i + 1));
+    labelsX_.at(i)->setGeometry(from, top + side, to - from, labelHeight);
   }
 }
 

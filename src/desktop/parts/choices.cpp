@@ -2,45 +2,51 @@
 
 #include "desktop/parts/controls.h"
 
-#include <QCheckBox>
-#include <QRadioButton>
 #include <QSignalBlocker>
 
 namespace veln {
 
 namespace {
 
-void InitChoice(QAbstractButton& button, const char* name, const QString& toolTip)
+template <class Button>
+Button* MakeChoice(QWidget* parent, const char* name, const QString& caption, const QString& toolTip)
 {
-  button.setObjectName(name);
-  button.setToolTip(toolTip);
-  button.setAccessibleName(WithoutKey(button.text()).trimmed());
+  auto* button = new Button(parent);
+  button->setObjectName(name);
+  button->setToolTip(toolTip);
+  SetCaption(*button, caption);
+  return button;
 }
 
 }  // namespace
 
-QRadioButton* MakeOption(QWidget* parent, const char* name, const QString& caption, const QString& toolTip)
+QRadioButton* MakeOption(QWidget* parent, const char* name, const QString& caption, const QString& toolTip,
+                         const std::function<void()>& chosen)
 {
-  auto* option = new QRadioButton(caption, parent);
-  InitChoice(*option, name, toolTip);
+  auto* option = MakeChoice<QRadioButton>(parent, name, caption, toolTip);
+  QObject::connect(option, &QRadioButton::toggled, option, [chosen](bool on) {
+    if (on) {
+      chosen();
+    }
+  });
   return option;
 }
 
-QCheckBox* MakeCheck(QWidget* parent, const char* name, const QString& caption, const QString& toolTip)
+QCheckBox* MakeCheck(QWidget* parent, const char* name, const QString& caption, const QString& toolTip,
+                     const std::function<void(bool on)>& ticked)
 {
-  auto* check = new QCheckBox(caption, parent);
-  InitChoice(*check, name, toolTip);
+  auto* check = MakeChoice<QCheckBox>(parent, name, caption, toolTip);
+  QObject::connect(check, &QCheckBox::toggled, check, ticked);
   return check;
 }
 
 void ShowChoice(QAbstractButton& button, bool on, TextRole offRole)
 {
-  if (auto* option = dynamic_cast<QRadioButton*>(&button)) {
-    ShowOption(*option, on);
-  } else {
-    const QSignalBlocker quiet(button);
-    button.setChecked(on);
-  }
+  const QSignalBlocker quiet(button);
+  const bool exclusive = button.autoExclusive();
+  button.setAutoExclusive(false);  // an exclusive one cannot be cleared
+  button.setChecked(on);
+  button.setAutoExclusive(exclusive);
   SetRole(button, on ? TextRole::Chosen : offRole);
 }
 

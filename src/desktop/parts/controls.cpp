@@ -1,10 +1,6 @@
 #include "desktop/parts/controls.h"
 
 #include <QPainter>
-#include <QPushButton>
-#include <QRadioButton>
-#include <QSignalBlocker>
-#include <QSizePolicy>
 
 namespace veln {
 
@@ -38,14 +34,22 @@ QString WithoutKey(const QString& caption)
   return QString(caption).remove('&');
 }
 
-QPushButton* MakeButton(QWidget* parent, const char* name, const QString& caption, const QString& toolTip)
+QPushButton* MakeButton(QWidget* parent, const char* name, const QString& caption, const QString& toolTip,
+                        const std::function<void()>& clicked)
 {
-  auto* button = new QPushButton(caption, parent);
+  auto* button = new QPushButton(parent);
   button->setObjectName(name);
   button->setToolTip(toolTip);
-  button->setAccessibleName(WithoutKey(caption).trimmed());
   button->setAutoDefault(false);
+  SetCaption(*button, caption);
+  QObject::connect(button, &QPushButton::clicked, button, clicked);
   return button;
+}
+
+void SetCaption(QAbstractButton& button, const QString& caption)
+{
+  button.setText(caption);
+  button.setAccessibleName(WithoutKey(caption).trimmed());
 }
 
 QLabel* MakeFieldLabel(QWidget* parent, const char* name, const QString& caption, QWidget* field)
@@ -62,10 +66,11 @@ QLabel* MakeFieldLabel(QWidget* parent, const char* name, const QString& caption
   return label;
 }
 
-QLabel* MakeValueLabel(QWidget* parent, const char* name, const QString& caption)
+QLabel* MakeValueLabel(QWidget* parent, const char* name, const QString& caption, Qt::Alignment side)
 {
   auto* label = new QLabel(parent);
   InitValueLabel(*label, name, caption);
+  label->setAlignment(side | Qt::AlignVCenter);
   return label;
 }
 
@@ -84,19 +89,11 @@ QLabel* MakeText(QWidget* parent, const char* name, const QString& text)
   return label;
 }
 
-void ShowOption(QRadioButton& option, bool selected)
+QLabel* MakeLine(QWidget* parent, const char* name, const QString& text)
 {
-  const QSignalBlocker quiet(option);
-  option.setAutoExclusive(false);  // an exclusive one cannot be cleared
-  option.setChecked(selected);
-  option.setAutoExclusive(true);
-}
-
-void KeepRoom(QWidget& widget)
-{
-  QSizePolicy policy = widget.sizePolicy();
-  policy.setRetainSizeWhenHidden(true);
-  widget.setSizePolicy(policy);
+  QLabel* label = MakeText(parent, name, text);
+  label->setWordWrap(false);
+  return label;
 }
 
 ElidedLabel::ElidedLabel(QWidget* parent) : QLabel(parent)

@@ -1,20 +1,13 @@
 #pragma once
 
 #include <QLabel>
+#include <QPushButton>
 #include <QString>
 
+#include <functional>
 #include <string>
 
-class QLineEdit;
-class QPushButton;
-class QRadioButton;
-class QWidget;
-
 namespace veln {
-
-inline constexpr int SmallGap = 8;   ///< px between related controls
-inline constexpr int LargeGap = 16;  ///< px between groups
-inline constexpr int WindowMargin = 12;
 
 /// Text of the engine, which is UTF-8, for a window.
 QString ToQt(const std::string& text);
@@ -23,26 +16,25 @@ std::string FromQt(const QString& text);
 /// A caption without the "&" that marks its key.
 QString WithoutKey(const QString& caption);
 
-/// A push button. It is no default button until it is made one.
-QPushButton* MakeButton(QWidget* parent, const char* name, const QString& caption, const QString& toolTip);
+/// A push button and what it does. It is no default button until it is made one.
+QPushButton* MakeButton(QWidget* parent, const char* name, const QString& caption, const QString& toolTip,
+                        const std::function<void()>& clicked);
+/// Gives a button another caption, and with it its accessible name.
+void SetCaption(QAbstractButton& button, const QString& caption);
 
 /// A label that stands before a field: takes the field's key and gives it its accessible name.
 QLabel* MakeFieldLabel(QWidget* parent, const char* name, const QString& caption, QWidget* field);
 
 /// A label that shows a value, as plain text. Its accessible name is `caption` and the value, kept by
 /// `ShowValue`.
-QLabel* MakeValueLabel(QWidget* parent, const char* name, const QString& caption);
+QLabel* MakeValueLabel(QWidget* parent, const char* name, const QString& caption,
+                       Qt::Alignment side = Qt::AlignLeft);
 void ShowValue(QLabel& label, const QString& value);
 
 /// A label for given text, plain and wrapped where it is long.
 QLabel* MakeText(QWidget* parent, const char* name, const QString& text);
-
-/// Shows whether an option button is selected; several in a frame may all be clear. The arrow keys select
-/// among them.
-void ShowOption(QRadioButton& option, bool selected);
-
-/// Lets a widget keep its room while it is hidden, so that nothing jumps.
-void KeepRoom(QWidget& widget);
+/// The same on one line.
+QLabel* MakeLine(QWidget* parent, const char* name, const QString& text);
 
 /// A label for long paths: cut in the middle where the room is short, with the whole text in its tool-tip.
 class ElidedLabel : public QLabel {

@@ -36,8 +36,11 @@ bool IsCharacter(const QKeyEvent& event)
 
 }  // namespace
 
-FilteredEdit::FilteredEdit(QWidget* parent, Filter filter) : QLineEdit(parent), filter_(std::move(filter))
+FilteredEdit::FilteredEdit(QWidget* parent, const char* name, const QString& toolTip, Filter filter)
+    : QLineEdit(parent), filter_(std::move(filter))
 {
+  setObjectName(name);
+  setToolTip(toolTip);
   setDragEnabled(false);
   // An assistive technology puts a text in as a whole.
   connect(this, &QLineEdit::textChanged, this, [this](const QString& text) { TakeOver(text); });

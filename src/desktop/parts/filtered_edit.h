@@ -15,7 +15,7 @@ class FilteredEdit : public QLineEdit {
   /// Whether a key may pass; keeps what the box then holds.
   using Filter = std::function<bool(const Keystroke& key)>;
 
-  FilteredEdit(QWidget* parent, Filter filter);
+  FilteredEdit(QWidget* parent, const char* name, const QString& toolTip, Filter filter);
   /// Puts a text into the box past the filter.
   void Show(const QString& text);
 

@@ -1,6 +1,7 @@
 #include "desktop/parts/text_table.h"
 
 #include "desktop/parts/controls.h"
+#include "desktop/parts/layout.h"
 #include "toolkit/number_text.h"
 
 #include <QClipboard>
@@ -8,29 +9,34 @@
 #include <QHeaderView>
 #include <QKeyEvent>
 #include <QStyledItemDelegate>
-#include <QTableWidget>
 
 #include <algorithm>
+#include <optional>
 
 namespace veln {
 
 namespace {
 
-/// A cell that sorts by the number that it shows.
+constexpr int GivenRow = Qt::UserRole;  // of a cell: the row of the table given that it stands in
+
+/// A cell that sorts by its number.
 class NumberCell : public QTableWidgetItem {
  public:
-  explicit NumberCell(const QString& text) : QTableWidgetItem(text)
+  NumberCell(const std::string& text, int row) : QTableWidgetItem(ToQt(text)), number_(ParseNumber(text))
   {
     setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
     setFlags(Qt::ItemIsSelectable | Qt::ItemIsEnabled);
+    setData(GivenRow, row);
   }
 
   bool operator<(const QTableWidgetItem& other) const override
   {
-    const auto mine = ParseNumber(FromQt(text()));
-    const auto theirs = ParseNumber(FromQt(other.text()));
-    return mine && theirs ? *mine < *theirs : QTableWidgetItem::operator<(other);
+    const auto& theirs = dynamic_cast<const NumberCell&>(other).number_;
+    return number_ && theirs ? *number_ < *theirs : QTableWidgetItem::operator<(other);
   }
+
+ private:
+  std::optional<double> number_;
 };
 
 /// Draws a number with blanks of a digit's width in place of the decimals that others in its column have
@@ -58,103 +64,96 @@ class DecimalAligner : public QStyledItemDelegate {
   }
 };
 
-std::vector<std::string> ReadRow(const QTableWidget& widget, int row)
-{
-  std::vector<std::string> cells;
-  cells.reserve(static_cast<std::size_t>(widget.columnCount()));
-  for (int column = 0; column < widget.columnCount(); ++column) {
-    cells.push_back(FromQt(widget.item(row, column)->text()));
-  }
-  return cells;
-}
-
-void CopyRows(const QTableWidget& widget)
-{
-  TextTable table = ReadTextTable(widget);
-  const QModelIndexList selected = widget.selectionModel()->selectedRows();
-  if (!selected.isEmpty()) {
-    table.Rows.clear();
-    std::vector<int> rows;
-    for (const QModelIndex& index : selected) {
-      rows.push_back(index.row());
-    }
-    std::ranges::sort(rows);
-    for (const int row : rows) {
-      table.Rows.push_back(ReadRow(widget, row));
-    }
-  }
-  QGuiApplication::clipboard()->setText(TabSeparated(table));
-}
-
-/// Copies rows, not cells, by the key for it.
-class CopyableTable : public QTableWidget {
- public:
-  using QTableWidget::QTableWidget;
-
- protected:
-  void keyPressEvent(QKeyEvent* event) override
-  {
-    if (event->matches(QKeySequence::Copy)) {
-      CopyRows(*this);
-    } else {
-      QTableWidget::keyPressEvent(event);
-    }
-  }
-};
-
 }  // namespace
 
-QTableWidget* MakeTextTable(QWidget* parent, const char* name, const TextTable& table)
+TextTableView::TextTableView(QWidget* parent, const char* name, const QString& accessibleName,
+                             const TextTable& table)
+    : QTableWidget(parent)
 {
-  auto* widget = new CopyableTable(parent);
-  widget->setObjectName(name);
-  widget->setItemDelegate(new DecimalAligner(widget));  // columns get the width of its texts
-  widget->verticalHeader()->hide();
-  widget->verticalHeader()->setDefaultSectionSize(widget->fontMetrics().lineSpacing() + SmallGap);
-  widget->setSelectionBehavior(QAbstractItemView::SelectRows);
-  widget->setTabKeyNavigation(false);
-  widget->setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
-  FillTextTable(*widget, table);
-  widget->horizontalHeader()->setStretchLastSection(true);
-  widget->horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
-  widget->setSortingEnabled(true);
-  return widget;
+  setObjectName(name);
+  setAccessibleName(accessibleName);
+  setItemDelegate(new DecimalAligner(this));  // columns get the width of its texts
+  verticalHeader()->hide();
+  verticalHeader()->setDefaultSectionSize(fontMetrics().lineSpacing() + SmallGap);
+  setSelectionBehavior(QAbstractItemView::SelectRows);
+  setTabKeyNavigation(false);
+  setSizeAdjustPolicy(QAbstractScrollArea::AdjustToContents);
+  Show(table);
+  horizontalHeader()->setStretchLastSection(true);
+  horizontalHeader()->setSortIndicator(-1, Qt::AscendingOrder);
+  setSortingEnabled(true);
 }
 
-void FillTextTable(QTableWidget& widget, const TextTable& table)
+void TextTableView::Show(const TextTable& table)
 {
-  const bool sorted = widget.isSortingEnabled();
-  widget.setSortingEnabled(false);  // or cells would move while they are filled in
-  widget.clear();
-  widget.setColumnCount(static_cast<int>(table.Headings.size()));
-  widget.setRowCount(static_cast<int>(table.Rows.size()));
-  for (int column = 0; column < widget.columnCount(); ++column) {
-    auto* heading = new QTableWidgetItem(ToQt(table.Headings[static_cast<std::size_t>(column)]));
-    heading->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-    widget.setHorizontalHeaderItem(column, heading);
+  table_ = table;
+  const bool sorted = isSortingEnabled();
+  setSortingEnabled(false);  // or cells would move while they are filled in
+  clear();
+  setColumnCount(static_cast<int>(table.Headings.size()));
+  setRowCount(static_cast<int>(table.Rows.size()));
+  for (int column = 0; column < columnCount(); ++column) {
+    const auto cell = static_cast<std::size_t>(column);
+    QTableWidgetItem* heading = MakeCell(ToQt(table.Headings[cell]));
+    setHorizontalHeaderItem(column, heading);
     int decimals = 0;
-    for (int row = 0; row < widget.rowCount(); ++row) {
-      const auto& cells = table.Rows[static_cast<std::size_t>(row)];
-      const QString text = ToQt(cells[static_cast<std::size_t>(column)]);
-      widget.setItem(row, column, new NumberCell(text));
-      decimals = qMax(decimals, DecimalAligner::Decimals(text));
+    for (int row = 0; row < rowCount(); ++row) {
+      auto* item = new NumberCell(table.Rows[static_cast<std::size_t>(row)][cell], row);
+      setItem(row, column, item);
+      decimals = qMax(decimals, DecimalAligner::Decimals(item->text()));
     }
     heading->setData(Qt::UserRole, decimals);
   }
-  widget.resizeColumnsToContents();
-  widget.setSortingEnabled(sorted);
+  resizeColumnsToContents();
+  setSortingEnabled(sorted);
 }
 
-TextTable ReadTextTable(const QTableWidget& widget)
+TextTable TextTableView::Sorted() const
 {
-  TextTable table;
-  for (int column = 0; column < widget.columnCount(); ++column) {
-    table.Headings.push_back(FromQt(widget.horizontalHeaderItem(column)->text()));
+  TextTable sorted{table_.Headings, {}};
+  for (int row = 0; row < rowCount(); ++row) {
+    sorted.Rows.push_back(table_.Rows[RowGiven(row)]);
   }
-  for (int row = 0; row < widget.rowCount(); ++row) {
-    table.Rows.push_back(ReadRow(widget, row));
+  return sorted;
+}
+
+std::size_t TextTableView::RowGiven(int shownRow) const
+{
+  return item(shownRow, 0)->data(GivenRow).toUInt();
+}
+
+int TextTableView::RowShown(std::size_t givenRow) const
+{
+  int row = 0;
+  while (RowGiven(row) != givenRow) {
+    ++row;
   }
-  return table;
+  return row;
+}
+
+/// Copies rows, not cells, by the key for it.
+void TextTableView::keyPressEvent(QKeyEvent* event)
+{
+  if (!event->matches(QKeySequence::Copy)) {
+    QTableWidget::keyPressEvent(event);
+    return;
+  }
+  TextTable copied = Sorted();
+  const bool any = selectionModel()->hasSelection();
+  for (int row = rowCount() - 1; row >= 0 && any; --row) {
+    if (!selectionModel()->isRowSelected(row)) {
+      copied.Rows.erase(copied.Rows.begin() + row);
+    }
+  }
+  QGuiApplication::clipboard()->setText(TabSeparated(copied));
+}
+
+QTableWidgetItem* MakeCell(const QString& text)
+{
+  auto* cell = new QTableWidgetItem(text);
+  cell->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
+  cell->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
+  return cell;
 }
 
 QString TabSeparated(const TextTable& table)

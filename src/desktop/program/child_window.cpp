@@ -8,7 +8,8 @@
 #include <QEvent>
 #include <QFontMetrics>
 #include <QGuiApplication>
-#include <QPushButton>
+#include <QLayout>
+#include <QMenuBar>
 #include <QScreen>
 #include <QShortcut>
 
@@ -87,10 +88,15 @@ void ChildWindow::reject()
 
 QPushButton* ChildWindow::HelpButton(const char* name)
 {
-  QPushButton* button = MakeButton(this, name, "&H", " OnLine Help... ");
-  button->setAccessibleName("H");
-  connect(button, &QPushButton::clicked, this, [this] { RequestHelp(program_, help_); });
-  return button;
+  return MakeButton(this, name, "&H", " OnLine Help... ", [this] { RequestHelp(program_, help_); });
+}
+
+void ChildWindow::SetMenus(const std::vector<MenuLine>& lines)
+{
+  auto* bar = new QMenuBar(this);
+  layout()->setMenuBar(bar);
+  menus_.Fill(*bar, lines);
+  menus_.Mirror();
 }
 
 void ChildWindow::changeEvent(QEvent* event)

@@ -1,12 +1,15 @@
 #pragma once
 
+#include "desktop/parts/menus.h"
 #include "desktop/program/program.h"
 #include "workspace/workflow.h"
 
 #include <QDialog>
 
+#include <functional>
 #include <optional>
 #include <string>
+#include <vector>
 
 class QPushButton;
 
@@ -20,10 +23,11 @@ class ChildWindow : public QDialog {
   struct Traits {
     const char* Name;  ///< "frmProject"
     QString Title;
-    QPoint OffsetTwips = {1000, 750};  ///< from the main window's corner, at the first opening; 15 to a pixel
-    std::string Help;                  ///< the document that F1 opens; none if empty
-    std::optional<MenuEntry> Gate;     ///< the entry whose closing unloads the window
-    QWidget* Origin = nullptr;         ///< the window that the offset counts from, if not the main window
+    std::string Help = {};               ///< the document that F1 opens; none if empty
+    std::optional<MenuEntry> Gate = {};  ///< the entry whose closing unloads the window
+    QWidget* Origin = nullptr;           ///< the window beside which it opens, if not the main window
+    QPoint OffsetTwips =
+        QPoint(1000, 750);  ///< from that window's corner, at the first opening; 15 to a pixel
   };
 
   ChildWindow(Program& program, QWidget* parent, const Traits& traits);
@@ -42,8 +46,18 @@ class ChildWindow : public QDialog {
   virtual void WayOut() { Unload(); }
   Program& Shared() { return program_; }
   SurveyState& State() { return program_.State; }
+  [[nodiscard]] const SurveyState& State() const { return program_.State; }
+  /// For a button: takes the way out.
+  std::function<void()> Leaves()
+  {
+    return [this] { WayOut(); };
+  }
   /// The "H" button of the window, for the lower left corner.
   QPushButton* HelpButton(const char* name);
+  /// Gives the window its menus, above its layout.
+  void SetMenus(const std::vector<MenuLine>& lines);
+  /// Opens and closes the entries of the menus as they tell.
+  void MirrorMenus() const { menus_.Mirror(); }
   void changeEvent(QEvent* event) override;
 
  private:
@@ -54,6 +68,7 @@ class ChildWindow : public QDialog {
   QPointer<QWidget> origin_;
   std::string help_;
   std::optional<MenuEntry> gate_;
+  Menus menus_;
   bool unloaded_ = false;
 };
 

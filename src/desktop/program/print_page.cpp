@@ -5,6 +5,7 @@
 
 #include <QPrinter>
 #include <QTextDocument>
+#include <QWidget>
 
 namespace veln {
 
@@ -37,21 +38,32 @@ QString TableHtml(const TextTable& table)
 
 void PrintHtml(Program& program, QWidget* parent, const QString& html)
 {
-  program.Try([&] {
-    QPrinter printer;
-    if (!program.ChoosePrinter(printer, parent)) {
-      return;
-    }
+  PrintOnePage(program, parent, [&html, parent](QPrinter& printer) {
+    printer.setResolution(parent->logicalDpiX());  // the document's pixels are those of the screen
     QTextDocument page;
     page.setHtml(html);
     page.print(&printer);
-    if (printer.printerState() == QPrinter::Error) {
-      throw Refusal("The page could not be printed.\nThe printer reports an error.");
-    }
+    return true;
   });
 }
 
 }  // namespace
+
+bool PrintOnePage(Program& program, QWidget* parent, const std::function<bool(QPrinter& printer)>& paint)
+{
+  bool sent = false;
+  program.Try([&] {
+    QPrinter printer(QPrinter::HighResolution);
+    if (!program.ChoosePrinter(printer, parent)) {
+      return;
+    }
+    if (!paint(printer) || printer.printerState() == QPrinter::Error) {
+      throw Refusal("The page could not be printed.\nThe printer reports an error.");
+    }
+    sent = true;
+  });
+  return sent;
+}
 
 void PrintTable(Program& program, QWidget* parent, const QString& title, const TextTable& table,
                 const QStringList& lines)

@@ -6,10 +6,17 @@
 #include <QString>
 #include <QStringList>
 
+#include <functional>
+
+class QPrinter;
+
 namespace veln {
 
-/// Prints a clean page on a printer that the user chooses: title, field ID, date, lines of text and the
-/// table. Cancelling prints nothing; a print that fails is told with the reason.
+/// Prints what `paint` paints, false if it could not, on a printer that the user chooses. Cancelling prints
+/// nothing; a print that fails is told with the reason. True once the page was sent.
+bool PrintOnePage(Program& program, QWidget* parent, const std::function<bool(QPrinter& printer)>& paint);
+
+/// The same for a clean page: title, field ID, date, lines of text and the table.
 void PrintTable(Program& program, QWidget* parent, const QString& title, const TextTable& table,
                 const QStringList& lines = {});
 

@@ -79,6 +79,12 @@ class Program {
   {
     return dynamic_cast<Window*>(FindWindow(Window::Name));
   }
+  /// Unloads the windows of these classes that are open.
+  template <class... Windows>
+  void CloseAll()
+  {
+    (Close(Windows::Name), ...);
+  }
 
  private:
   [[nodiscard]] ChildWindow* FindWindow(const char* name) const;

@@ -1,9 +1,6 @@
 #pragma once
 
 #include "desktop/program/child_window.h"
-#include "forms/outlier_list.h"
-
-class QTableWidget;
 
 namespace veln {
 
@@ -13,11 +10,6 @@ class frmList : public ChildWindow {
   static constexpr const char* Name = "frmList";
 
   frmList(Program& program, QWidget* parent);
-
- private:
-  void MakeMenus();
-
-  QTableWidget* grid_;
 };
 
 }  // namespace veln

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/program/child_window.h"
+#include "desktop/program/form_window.h"
 #include "forms/sig_decorr_form.h"
 
 class QGroupBox;
@@ -12,22 +12,18 @@ class QScrollBar;
 namespace veln {
 
 /// "Signal Decorrelation": the two levels, then how many sites stand above them.
-class frmSigDecorr : public ChildWindow {
+class frmSigDecorr : public FormWindow<SigDecorrForm> {
  public:
   static constexpr const char* Name = "frmSigDecorr";
 
   frmSigDecorr(Program& program, QWidget* parent);
 
-  /// The counts of the last run (`RetrieveCounts`).
-  [[nodiscard]] const DecorrelationCounts& Counts() const { return form_.Counts; }
-
  private:
   QGroupBox* MakeOptions();
   QGroupBox* MakeResults();
-  QScrollBar* MakeBar(const char* name, int level, void (*moveLevel)(SigDecorrForm&, int));
-  void Mirror();
+  void Perform();
+  void Mirror() final;
 
-  SigDecorrForm form_;
   QScrollBar* maskingBar_;
   QScrollBar* outlierBar_;
   QLineEdit* maskingText_;

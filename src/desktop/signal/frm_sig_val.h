@@ -1,18 +1,17 @@
 #pragma once
 
-#include "desktop/program/child_window.h"
+#include "desktop/program/form_window.h"
 #include "forms/sig_val_form.h"
 
 class QCheckBox;
 class QGroupBox;
 class QLabel;
-class QPushButton;
 class QRadioButton;
 
 namespace veln {
 
 /// "Signal Validation": delete the outliers and decorrelate again, or accept the data as they stand.
-class frmSigVal : public ChildWindow {
+class frmSigVal : public FormWindow<SigValForm> {
  public:
   static constexpr const char* Name = "frmSigVal";
 
@@ -20,22 +19,20 @@ class frmSigVal : public ChildWindow {
 
  private:
   QGroupBox* MakeValidationOptions();
-  QGroupBox* MakeEdgeOptions();
   QGroupBox* MakeTransitionOption();
+  QGroupBox* MakeEdgeOptions();
   void Validate();
-  void Mirror();
+  void Mirror() final;
 
-  SigValForm form_;
   QRadioButton* deleteOption_;
   QRadioButton* acceptOption_;
+  QCheckBox* transition_;
+  QLabel* transitionNote_;
   QCheckBox* edgeBuffering_;
   QLabel* rowCount_;
   QLabel* rowQuestion_;
   QRadioButton* rowsYes_;
   QRadioButton* rowsNo_;
-  QCheckBox* transition_;
-  QLabel* transitionNote_;
-  QPushButton* validate_;
 };
 
 }  // namespace veln

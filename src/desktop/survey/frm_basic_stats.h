@@ -1,17 +1,17 @@
 #pragma once
 
-#include "desktop/program/child_window.h"
+#include "desktop/program/form_window.h"
 #include "survey/signal_transform.h"
+
+#include <array>
 
 class QCheckBox;
 class QGroupBox;
-class QLineEdit;
 
 namespace veln {
 
-/// "Signal Transformation / Scaling Options": logarithms, units and labels of the signals, before
-/// decorrelation.
-class frmBasicStats : public ChildWindow {
+/// "Signal Transformation / Scaling Options": logarithms, units and labels of the signals.
+class frmBasicStats : public FormWindow<BasicStatsForm> {
  public:
   static constexpr const char* Name = "frmBasicStats";
 
@@ -21,10 +21,9 @@ class frmBasicStats : public ChildWindow {
   QGroupBox* MakeTransformOptions();
   QGroupBox* MakeScalingOptions();
   void Compute();
+  void Mirror() final;
 
-  BasicStatsForm form_;
-  QLineEdit* label1_;
-  QLineEdit* label2_;
+  std::array<QCheckBox*, 4> checks_{};  // `Check1` to `Check4`
 };
 
 }  // namespace veln

@@ -2,14 +2,10 @@
 
 #include "desktop/parts/busy_pointer.h"
 #include "desktop/parts/controls.h"
+#include "desktop/parts/layout.h"
 #include "toolkit/number_text.h"
 
-#include <QGroupBox>
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
 #include <QTimer>
-#include <QVBoxLayout>
 
 namespace veln {
 
@@ -28,21 +24,14 @@ QLabel* MakeProgressLine(QWidget* parent, const char* name, const QString& text)
 }  // namespace
 
 frmOutFD::frmOutFD(Program& program, QWidget* parent)
-    : ChildWindow(program, parent, {Name, "Data File Export", {1000, 750}, "", std::nullopt}),
-      timer1_(new QTimer(this))
+    : ChildWindow(program, parent, {Name, "Data File Export"}), timer1_(new QTimer(this))
 {
   constexpr int TickMilliseconds = 100;
   label2_ = MakeProgressLine(this, "Label2", "Creating output data file, one moment please...");
   label1_ = MakeProgressLine(this, "Label1", "Writing Line # XXX to output data file");
   confirmation_ = MakeConfirmation();
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
-  layout->setSpacing(SmallGap);
-  layout->addWidget(label2_);
-  layout->addWidget(label1_);
-  layout->addSpacing(SmallGap);
-  layout->addStretch();
-  layout->addWidget(confirmation_);
+  SetColumn(*this, {label2_, label1_, LayoutItem::Gap(SmallGap), LayoutItem::Rest(), confirmation_},
+            SmallGap);
   timer1_->setObjectName("Timer1");
   connect(timer1_, &QTimer::timeout, this, [this] { Tick(); });
   timer1_->start(TickMilliseconds);
@@ -50,21 +39,12 @@ frmOutFD::frmOutFD(Program& program, QWidget* parent)
 
 QGroupBox* frmOutFD::MakeConfirmation()
 {
-  auto* frame = new QGroupBox("Confirm Program Exit", this);
-  frame->setObjectName("Frame1");
-  QPushButton* yes = MakeButton(frame, "Command1", "&Yes", "");
-  QPushButton* no = MakeButton(frame, "Command2", "&No", "");
-  yes->setDefault(true);
-  connect(yes, &QPushButton::clicked, this, [this] {
+  QPushButton* yes = MakeButton(this, "Command1", "&Yes", "", [this] {
     Unload();
     Shared().EndProgram();
   });
-  connect(no, &QPushButton::clicked, this, [this] { Unload(); });
-  auto* row = new QHBoxLayout(frame);
-  row->setSpacing(SmallGap);
-  row->addStretch();
-  row->addWidget(no);
-  row->addWidget(yes);
+  QPushButton* no = MakeButton(this, "Command2", "&No", "", Leaves());
+  QGroupBox* frame = Frame(this, "Frame1", "Confirm Program Exit", ButtonRow({nullptr, no, yes}));
   frame->hide();
   KeepRoom(*frame);
   return frame;

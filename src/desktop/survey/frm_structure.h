@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/program/child_window.h"
+#include "desktop/program/form_window.h"
 #include "forms/structure_form.h"
 
 class QCheckBox;
@@ -9,14 +9,13 @@ class QGroupBox;
 class QLabel;
 class QLayout;
 class QLineEdit;
-class QPushButton;
 class QRadioButton;
 class QTableWidget;
 
 namespace veln {
 
 /// "File Structure and Import": the file with a preview, its columns, its labels and units, and the import.
-class frmStructure : public ChildWindow {
+class frmStructure : public FormWindow<StructureForm> {
  public:
   static constexpr const char* Name = "frmStructure";
 
@@ -36,17 +35,16 @@ class frmStructure : public ChildWindow {
   QGroupBox* MakeFilePart();
   QGroupBox* MakeColumnPart();
   QGroupBox* MakeLabelPart();
-  void AddUnits(QGridLayout& grid, QWidget* frame);
-  void AddTransform(QGridLayout& grid, QWidget* frame);
-  QLayout* MakeButtons();
+  void AddUnits(QGridLayout& grid);
+  void AddTransform(QGridLayout& grid);
+  QLayout* MakeProgress();
   void Browse();
   void Import();
   void ShowProgress(ImportPass pass, int count);
   void HideProgress();
-  void Mirror();
+  void Mirror() final;
   void ShowPreview();
 
-  StructureForm form_;
   QLineEdit* file_;
   QTableWidget* preview_ = nullptr;
   QLabel* previewNote_ = nullptr;

@@ -1,36 +1,30 @@
 #include "desktop/survey/record_preview_table.h"
 
 #include "desktop/parts/controls.h"
+#include "desktop/parts/layout.h"
 #include "desktop/parts/text_roles.h"
+#include "desktop/parts/text_table.h"
 #include "forms/record_preview.h"
 #include "toolkit/refusal.h"
 
 #include <QFileInfo>
 #include <QHeaderView>
-#include <QTableWidget>
 
 namespace veln {
 
 namespace {
-
-QTableWidgetItem* MakeItem(const std::string& text)
-{
-  auto* item = new QTableWidgetItem(ToQt(text));
-  item->setTextAlignment(Qt::AlignRight | Qt::AlignVCenter);
-  item->setFlags(Qt::ItemIsEnabled | Qt::ItemIsSelectable);
-  return item;
-}
 
 void FillTable(QTableWidget& table, const RecordPreview& preview)
 {
   table.setRowCount(static_cast<int>(preview.Records.size()));
   table.setColumnCount(static_cast<int>(preview.Headings.size()));
   for (std::size_t column = 0; column < preview.Headings.size(); ++column) {
-    table.setHorizontalHeaderItem(static_cast<int>(column), MakeItem(preview.Headings[column]));
+    table.setHorizontalHeaderItem(static_cast<int>(column), MakeCell(ToQt(preview.Headings[column])));
   }
   for (std::size_t row = 0; row < preview.Records.size(); ++row) {
     for (std::size_t column = 0; column < preview.Records[row].size(); ++column) {
-      table.setItem(static_cast<int>(row), static_cast<int>(column), MakeItem(preview.Records[row][column]));
+      table.setItem(static_cast<int>(row), static_cast<int>(column),
+                    MakeCell(ToQt(preview.Records[row][column])));
     }
   }
 }
@@ -45,11 +39,11 @@ QString Shortened(const QString& text)
 QString MarkFault(QTableWidget& table, const RecordPreview& preview)
 {
   const RecordPreview::Fault& fault = *preview.FirstFault;
+  QTableWidgetItem* item = table.item(static_cast<int>(fault.Record), static_cast<int>(fault.Item));
   const QString reason = "Record " + QString::number(fault.Record + 1) + ", " +
                          ToQt(preview.Headings[fault.Item]) + ": \"" +
                          Shortened(ToQt(preview.Records[fault.Record][fault.Item])) +
                          "\" would be refused: " + ToQt(fault.Reason) + ".";
-  QTableWidgetItem* item = table.item(static_cast<int>(fault.Record), static_cast<int>(fault.Item));
   QFont bold = item->font();
   bold.setBold(true);
   item->setFont(bold);

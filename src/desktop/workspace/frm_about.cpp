@@ -1,13 +1,9 @@
 #include "desktop/workspace/frm_about.h"
 
 #include "desktop/parts/controls.h"
+#include "desktop/parts/layout.h"
 #include "desktop/parts/text_roles.h"
 #include "workspace/version.h"
-
-#include <QHBoxLayout>
-#include <QLabel>
-#include <QPushButton>
-#include <QVBoxLayout>
 
 namespace veln {
 
@@ -29,33 +25,24 @@ QString AboutText()
 }  // namespace
 
 frmAbout::frmAbout(Program& program, QWidget* parent)
-    : ChildWindow(program, parent, {Name, "About VELN-QTRD", {1000, 750}, "", std::nullopt})
+    : ChildWindow(program, parent, {Name, "About VELN-QTRD"})
 {
-  QLabel* title = MakeText(this, "LblTitle", ProgramTitle);
+  QLabel* title = MakeLine(this, "LblTitle", ProgramTitle);
   QFont font = title->font();
   font.setPointSizeF(font.pointSizeF() * TitleScale);
   title->setFont(font);
   SetRole(*title, TextRole::Maker);
-  QLabel* version = MakeText(this, "LblVersion", QString("Version  %1").arg(ProgramVersion));
-  QLabel* text = MakeText(this, "LblAbout", AboutText());
+  QLabel* version = MakeLine(this, "LblVersion", QString("Version  %1").arg(ProgramVersion));
+  QLabel* text = MakeLine(this, "LblAbout", AboutText());
   for (QLabel* label : {title, version, text}) {
-    label->setWordWrap(false);
     label->setTextInteractionFlags(Qt::TextSelectableByMouse);
   }
-  QPushButton* ok = MakeButton(this, "Command1", "&OK", " return to main program menu ");
-  ok->setDefault(true);
-  connect(ok, &QPushButton::clicked, this, [this] { Unload(); });
-
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(LargeGap, LargeGap, LargeGap, WindowMargin);
-  layout->setSpacing(SmallGap);
-  layout->setSizeConstraint(QLayout::SetFixedSize);
-  layout->addWidget(title);
-  layout->addWidget(version);
-  layout->addSpacing(SmallGap);
-  layout->addWidget(text);
-  layout->addSpacing(LargeGap);
-  layout->addWidget(ok, 0, Qt::AlignRight);
+  SetColumn(
+      *this,
+      {title, version, LayoutItem::Gap(SmallGap), text, LayoutItem::Gap(LargeGap),
+       ButtonRow({nullptr, MakeButton(this, "Command1", "&OK", " return to main program menu ", Leaves())})},
+      SmallGap);
+  layout()->setSizeConstraint(QLayout::SetFixedSize);
 }
 
 }  // namespace veln

@@ -1,23 +1,18 @@
 #include "desktop/workspace/frm_file_io.h"
 
+#include "desktop/parts/choices.h"
 #include "desktop/parts/controls.h"
-#include "desktop/parts/text_roles.h"
+#include "desktop/parts/fields.h"
+#include "desktop/parts/layout.h"
 #include "toolkit/refusal.h"
 
 #include <QComboBox>
 #include <QDir>
 #include <QFileInfo>
 #include <QFormLayout>
-#include <QGroupBox>
-#include <QHBoxLayout>
 #include <QKeyEvent>
-#include <QLabel>
-#include <QLineEdit>
 #include <QListWidget>
-#include <QPushButton>
-#include <QRadioButton>
 #include <QStorageInfo>
-#include <QVBoxLayout>
 
 #include <system_error>
 
@@ -41,14 +36,6 @@ class DirectoryList : public QListWidget {
     }
   }
 };
-
-QLineEdit* MakeShownText(QWidget* parent, const char* name)
-{
-  auto* text = new QLineEdit(parent);
-  text->setObjectName(name);
-  text->setReadOnly(true);
-  return text;
-}
 
 /// The whole text is in the tool-tip, too: a long path does not fit into the line.
 void ShowPath(QLineEdit& line, const QString& text)
@@ -85,31 +72,17 @@ QStringList SubDirectories(const QString& path)
 }  // namespace
 
 frmFileIO::frmFileIO(Program& program, QWidget* parent)
-    : ChildWindow(program, parent,
-                  {Name, "Default Text Editor & File Input Path Specifications", {1000, 750}, "hdoc17", {}}),
-      form_(LoadFileIoForm(program.State))
+    : FormWindow(program, parent, {Name, "Default Text Editor & File Input Path Specifications", "hdoc17"},
+                 LoadFileIoForm(program.State))
 {
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
-  layout->setSpacing(LargeGap);
-  layout->addWidget(MakeEditorPart());
-  layout->addWidget(MakePathPart(), 1);
-  layout->addWidget(MakePrinterPart());
-
-  auto* buttons = new QHBoxLayout;
-  buttons->addWidget(HelpButton("cmdHelp"));
-  buttons->addStretch();
-  QPushButton* cancel = MakeButton(this, "cmdCancel", "&Cancel", "");
-  QPushButton* accept = MakeButton(this, "cmdOK", "&OK", "");
-  accept->setDefault(true);
-  buttons->addWidget(cancel);
-  buttons->addWidget(accept);
-  layout->addLayout(buttons);
-  connect(cancel, &QPushButton::clicked, this, [this] { WayOut(); });
-  connect(accept, &QPushButton::clicked, this, [this] {
-    SaveTEandFIOinfo(State(), Shared().Ask());
-    Unload();
-  });
+  SetColumn(*this, {MakeEditorPart(),
+                    {MakePathPart(), 1},
+                    MakePrinterPart(),
+                    ButtonRow({HelpButton("cmdHelp"), MakeButton(this, "cmdCancel", "&Cancel", "", Leaves()),
+                               MakeButton(this, "cmdOK", "&OK", "", [this] {
+                                 SaveTEandFIOinfo(State(), Shared().Ask());
+                                 Unload();
+                               })})});
   ListDirectory(NearestDirectory(ToQt(program.State.InputFilePath)));
   Mirror();
 }
@@ -122,70 +95,54 @@ void frmFileIO::WayOut()
 
 QGroupBox* frmFileIO::MakeEditorPart()
 {
-  auto* frame = new QGroupBox("Text editor", this);
-  auto* column = new QVBoxLayout(frame);
-  editor_ = MakeShownText(frame, "txtEditor");
-  QPushButton* browse = MakeButton(frame, "cmdBrowse", "&Browse", "");
-  column->addWidget(MakeFieldLabel(frame, "Label1", "Default text &editor used by VELN:", editor_));
-  auto* line = new QHBoxLayout;
-  line->addWidget(editor_, 1);
-  line->addWidget(browse);
-  column->addLayout(line);
-  connect(browse, &QPushButton::clicked, this, [this] { Browse(); });
-  return frame;
+  editor_ = MakeShownText(this, "txtEditor");
+  QPushButton* browse = MakeButton(this, "cmdBrowse", "&Browse", "", [this] { Browse(); });
+  return Frame(this, "", "Text editor",
+               Column({MakeFieldLabel(this, "Label1", "Default text &editor used by VELN:", editor_),
+                       Row({{editor_, 1}, browse})}));
 }
 
 QGroupBox* frmFileIO::MakePathPart()
 {
-  auto* frame = new QGroupBox("Raw survey files", this);
-  auto* column = new QVBoxLayout(frame);
-  inputPath_ = MakeShownText(frame, "txtIOpath");
-  QLabel* caption = MakeFieldLabel(
-      frame, "Label2", "Default i&nput sub-directory (for all raw input survey data files):", inputPath_);
-  column->addWidget(caption);
-  column->addWidget(inputPath_);
-  drives_ = new QComboBox(frame);
+  inputPath_ = MakeShownText(this, "txtIOpath");
+  drives_ = new QComboBox(this);
   drives_->setObjectName("Drive1");
   for (const QStorageInfo& volume : QStorageInfo::mountedVolumes()) {
     if (QFileInfo(volume.rootPath()).isDir()) {  // a single file can be a mount, too
       drives_->addItem(volume.rootPath());
     }
   }
-  directories_ = new DirectoryList(frame);
+  directories_ = new DirectoryList(this);
   directories_->setObjectName("Dir1");
-  auto* choice = new QFormLayout;
-  choice->addRow(MakeFieldLabel(frame, "Label3", "Select Dri&ve:", drives_), drives_);
-  choice->addRow(MakeFieldLabel(frame, "Label4", "Select &sub-directory path:", directories_), directories_);
-  column->addLayout(choice, 1);
   connect(drives_, &QComboBox::textActivated, this, [this](const QString& drive) { MoveTo(drive); });
-  connect(directories_, &QListWidget::itemActivated, this,
-          [this](const QListWidgetItem* item) { MoveTo(QDir::cleanPath(directory_ + "/" + item->text())); });
-  return frame;
+  connect(directories_, &QListWidget::itemActivated, this, [this](const QListWidgetItem* item) {
+    MoveTo(QDir::cleanPath(directory_ + "/" + subDirectories_.at(directories_->row(item))));
+  });
+  auto* choice = new QFormLayout;
+  choice->addRow(MakeFieldLabel(this, "Label3", "Select Dri&ve:", drives_), drives_);
+  choice->addRow(MakeFieldLabel(this, "Label4", "Select &sub-directory path:", directories_), directories_);
+  return Frame(this, "", "Raw survey files",
+               Column({MakeFieldLabel(
+                           this, "Label2",
+                           "Default i&nput sub-directory (for all raw input survey data files):", inputPath_),
+                       inputPath_,
+                       {choice, 1}}));
 }
 
 QGroupBox* frmFileIO::MakePrinterPart()
 {
-  constexpr std::array<const char*, 3> Names = {"opt300", "opt600", "opt1200"};
-  constexpr std::array<const char*, 3> Captions = {"300 &DPI", "600 D&PI", "1200 DP&I"};
-  auto* frame = new QGroupBox("Printer", this);
-  auto* column = new QVBoxLayout(frame);
-  column->addWidget(
-      MakeText(frame, "Label5", "Dot per Inch (DPI) resolution of your current, default printer:"));
-  auto* line = new QHBoxLayout;
-  for (std::size_t i = 0; i < Factors.size(); ++i) {
-    auto* option = new QRadioButton(Captions.at(i), frame);
-    option->setObjectName(Names.at(i));
-    option->setAccessibleName(WithoutKey(Captions.at(i)));
-    printers_.at(i) = option;
-    line->addWidget(option);
-    connect(option, &QRadioButton::clicked, this, [this, i] {
-      ChoosePrinterDpi(form_, State(), Factors.at(i));
+  const auto makeOption = [this](const char* name, const QString& caption, int factor) {
+    return MakeOption(this, name, caption, "", [this, factor] {
+      ChoosePrinterDpi(form_, State(), factor);
       Mirror();
     });
-  }
-  line->addStretch();
-  column->addLayout(line);
-  return frame;
+  };
+  printers_ = {makeOption("opt300", "300 &DPI", Factors[0]), makeOption("opt600", "600 D&PI", Factors[1]),
+               makeOption("opt1200", "1200 DP&I", Factors[2])};
+  return Frame(
+      this, "", "Printer",
+      Column({MakeText(this, "Label5", "Dot per Inch (DPI) resolution of your current, default printer:"),
+              Row({printers_[0], printers_[1], printers_[2], LayoutItem::Rest()})}));
 }
 
 void frmFileIO::Browse()
@@ -203,10 +160,10 @@ void frmFileIO::Browse()
 bool frmFileIO::ListDirectory(const QString& path)
 {
   return Shared().Try([&] {
-    const QStringList names = SubDirectories(path);
+    subDirectories_ = SubDirectories(path);
     directory_ = path;
     directories_->clear();
-    directories_->addItems(names);
+    directories_->addItems(subDirectories_);
     directories_->setToolTip(path);
   });
 }
@@ -226,9 +183,7 @@ void frmFileIO::Mirror()
   const QString drive = QStorageInfo(directory_).rootPath();
   drives_->setCurrentIndex(drives_->findText(drive));
   for (std::size_t i = 0; i < Factors.size(); ++i) {
-    const bool selected = form_.SelectedFactor == Factors.at(i);
-    ShowOption(*printers_.at(i), selected);
-    SetRole(*printers_.at(i), selected ? TextRole::Chosen : TextRole::Normal);
+    ShowChoice(*printers_.at(i), form_.SelectedFactor == Factors.at(i));
   }
 }
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/program/child_window.h"
+#include "desktop/program/form_window.h"
 #include "workspace/settings.h"
 
 #include <array>
@@ -15,7 +15,7 @@ class QRadioButton;
 namespace veln {
 
 /// "Default Text Editor & File Input Path Specifications".
-class frmFileIO : public ChildWindow {
+class frmFileIO : public FormWindow<FileIoForm> {
  public:
   static constexpr const char* Name = "frmFileIO";
 
@@ -32,10 +32,10 @@ class frmFileIO : public ChildWindow {
   /// Lists a directory in `Dir1`; tells the system's reason if it can't be read, and the list stays then.
   bool ListDirectory(const QString& path);
   void MoveTo(const QString& path);
-  void Mirror();
+  void Mirror() final;
 
-  FileIoForm form_;
-  QString directory_;  // what `Dir1` lists
+  QString directory_;           // what `Dir1` lists
+  QStringList subDirectories_;  // its entries
   QLineEdit* editor_;
   QLineEdit* inputPath_;
   QComboBox* drives_;

@@ -1,14 +1,12 @@
 #include "desktop/workspace/frm_help.h"
 
 #include "desktop/parts/controls.h"
+#include "desktop/parts/layout.h"
 #include "desktop/program/help_request.h"
 #include "forms/output_view.h"
 
-#include <QHBoxLayout>
-#include <QPushButton>
 #include <QShortcut>
 #include <QTextBrowser>
-#include <QVBoxLayout>
 
 namespace veln {
 
@@ -30,30 +28,20 @@ class HelpText : public QTextBrowser {
 }  // namespace
 
 frmHelp::frmHelp(Program& program, QWidget* parent)
-    : ChildWindow(program, parent, {Name, "VELN-QTRD OnLine Help", {1000, 750}, "", std::nullopt})
+    : ChildWindow(program, parent, {Name, "VELN-QTRD OnLine Help"})
 {
   text_ = new HelpText(this);
   text_->setObjectName("RTB1");
   text_->setAccessibleName("Help document");
   text_->setOpenLinks(false);
   text_->document()->setDocumentMargin(WindowMargin);
-  QPushButton* print = MakeButton(this, "Command1", "&Print this Help File", "");
-  QPushButton* back = MakeButton(this, "Command2", "&Return to VELN", "");
-  back->setDefault(true);
-  connect(print, &QPushButton::clicked, this, [this] { Print(); });
-  connect(back, &QPushButton::clicked, this, [this] { Unload(); });
+  SetColumn(
+      *this,
+      {{text_, 1},
+       ButtonRow({nullptr, MakeButton(this, "Command1", "&Print this Help File", "", [this] { Print(); }),
+                  MakeButton(this, "Command2", "&Return to VELN", "", Leaves())})},
+      WindowMargin);
   connect(new QShortcut(QKeySequence::Print, this), &QShortcut::activated, this, [this] { Print(); });
-
-  auto* buttons = new QHBoxLayout;
-  buttons->setSpacing(SmallGap);
-  buttons->addStretch();
-  buttons->addWidget(print);
-  buttons->addWidget(back);
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
-  layout->setSpacing(WindowMargin);
-  layout->addWidget(text_, 1);
-  layout->addLayout(buttons);
 }
 
 void frmHelp::ShowDocument(const HelpDocument& document)

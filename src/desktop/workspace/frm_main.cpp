@@ -1,6 +1,7 @@
 #include "desktop/workspace/frm_main.h"
 
 #include "desktop/parts/controls.h"
+#include "desktop/parts/layout.h"
 #include "desktop/parts/text_roles.h"
 #include "desktop/survey/frm_out_fd.h"
 #include "desktop/survey/frm_structure.h"
@@ -22,7 +23,6 @@
 #include <QStatusBar>
 #include <QTimer>
 #include <QUrl>
-#include <QVBoxLayout>
 
 #include <utility>
 
@@ -74,7 +74,7 @@ frmMain::frmMain(Program& program) : program_(program), timer1_(new QTimer(this)
   setAcceptDrops(true);
   program_.SetMainWindow(this);
   program_.OnChange(this, [this] { Mirror(); });
-  MakeMenus();
+  menus_.Fill(*menuBar(), MenuLines());
   MakeContent();
   Mirror();
   Place();
@@ -88,45 +88,16 @@ frmMain::~frmMain()
   program_.Settings().setValue(GeometryKey, saveGeometry());
 }
 
-void frmMain::MakeMenus()
-{
-  for (const MainMenuLine& line : MainMenu()) {
-    auto* above = line.Menu == nullptr ? nullptr : findChild<QMenu*>(line.Menu);
-    const bool submenu = line.Action == nullptr;
-    QAction* action = nullptr;
-    if (submenu) {
-      QMenu* menu = above == nullptr ? menuBar()->addMenu(line.Caption) : above->addMenu(line.Caption);
-      menu->setObjectName(line.Name);
-      action = menu->menuAction();
-    } else {
-      action = above->addAction(line.Caption);
-      action->setShortcut(QKeySequence(line.Shortcut));
-    }
-    action->setObjectName(line.Name);
-    if (line.Action != nullptr) {
-      connect(action, &QAction::triggered, this, [this, act = line.Action] { act(*this); });
-    }
-  }
-}
-
 void frmMain::MakeContent()
 {
   constexpr int WidestLine = 160;  // characters; beyond it the column stays in the middle
   auto* column = new QWidget(this);
   column->setMaximumWidth(fontMetrics().averageCharWidth() * WidestLine);
-  auto* lines = new QVBoxLayout(column);
-  lines->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
-  lines->setSpacing(LargeGap);
   cards_ = new StatusCards(column);
-  lines->addWidget(MakeBanner());
-  lines->addWidget(MakeStart());
-  lines->addWidget(cards_);
-  lines->addStretch();
+  SetColumn(*column, {MakeBanner(), MakeStart(), cards_, LayoutItem::Rest()});
 
   auto* content = new QWidget(this);
-  auto* middle = new QHBoxLayout(content);
-  middle->setContentsMargins(0, 0, 0, 0);
-  middle->addWidget(column);
+  content->setLayout(Tight(Row({column})));
   auto* scroll = new QScrollArea(this);
   scroll->setObjectName("Cards");
   scroll->setFrameShape(QFrame::NoFrame);
@@ -145,12 +116,10 @@ QWidget* frmMain::MakeBanner()
 {
   constexpr std::array<const char*, 3> Names = {"Label20", "Label22", "Label23"};
   auto* banner = new QWidget(this);
-  bannerLayout_ = new QVBoxLayout(banner);
-  bannerLayout_->setContentsMargins(0, 0, 0, 0);
-  bannerLayout_->setSpacing(SmallGap / 2);
+  bannerLayout_ = Tight(Column({}, SmallGap / 2));
+  banner->setLayout(bannerLayout_);
   for (std::size_t i = 0; i < Names.size(); ++i) {
-    QLabel* label = MakeText(banner, Names.at(i), "");
-    label->setWordWrap(false);
+    QLabel* label = MakeLine(banner, Names.at(i), "");
     label->hide();
     KeepRoom(*label);
     SetRole(*label, TextRole::Maker);
@@ -163,21 +132,15 @@ QWidget* frmMain::MakeBanner()
 QWidget* frmMain::MakeStart()
 {
   start_ = new QWidget(this);
-  auto* lines = new QVBoxLayout(start_);
-  lines->setContentsMargins(0, 0, 0, 0);
-  lines->setSpacing(LargeGap);
   startLine_ = MakeText(start_, "LblStart", "Begin with File, Set / Create Project and Field ID.");
   constexpr int DropLines = 9;
   auto* place = new DropPlace(start_);
   place->setMinimumHeight(place->fontMetrics().lineSpacing() * DropLines);
   place->setObjectName("DropPlace");
-  auto* inside = new QVBoxLayout(place);
-  inside->setContentsMargins(LargeGap, LargeGap, LargeGap, LargeGap);
   dropLine_ = MakeText(place, "LblDrop", "");
   dropLine_->setAlignment(Qt::AlignCenter);
-  inside->addWidget(dropLine_);
-  lines->addWidget(startLine_);
-  lines->addWidget(place);
+  SetColumn(*place, {dropLine_});
+  start_->setLayout(Tight(Column({startLine_, place}, LargeGap)));
   return start_;
 }
 
@@ -235,21 +198,12 @@ void frmMain::Exit()
 
 void frmMain::Mirror()
 {
-  MirrorMenus();
+  menus_.Mirror();
   MirrorStart();
   QWidget* fresh = cards_->Mirror(program_.State);
   if (fresh != nullptr && isVisible()) {
     auto* scroll = dynamic_cast<QScrollArea*>(centralWidget());
     QTimer::singleShot(0, fresh, [scroll, fresh] { scroll->ensureWidgetVisible(fresh, 0, WindowMargin); });
-  }
-}
-
-/// The one place where entries are enabled: as the workflow says.
-void frmMain::MirrorMenus()
-{
-  for (const MainMenuLine& line : MainMenu()) {
-    const bool open = !line.Gate || program_.State.Menu.IsEnabled(*line.Gate);
-    findChild<QAction*>(line.Name)->setEnabled(open);
   }
 }
 

@@ -1,16 +1,15 @@
 #pragma once
 
+#include "desktop/parts/menus.h"
 #include "desktop/program/program.h"
 #include "forms/banner.h"
 
 #include <QMainWindow>
 
 #include <array>
-#include <optional>
-#include <span>
+#include <vector>
 
 class QBoxLayout;
-class QFrame;
 class QLabel;
 class QScrollArea;
 class QTimer;
@@ -19,20 +18,6 @@ namespace veln {
 
 class ElidedLabel;
 class StatusCards;
-class frmMain;
-
-/// One line of the menus of `frmMain`: a submenu or an entry in one that stands before it.
-struct MainMenuLine {
-  const char* Name;
-  const char* Menu;  ///< the submenu it stands in; null for the menu bar
-  const char* Caption;
-  std::optional<MenuEntry> Gate = std::nullopt;  ///< what enables it; without one it always is
-  void (*Action)(frmMain&) = nullptr;            ///< none for a submenu
-  const char* Shortcut = "";
-};
-
-/// All menus of `frmMain`, in their order.
-std::span<const MainMenuLine> MainMenu();
 
 /// The main window: the menus of the workflow and the status of the survey, as cards in the order of the
 /// work.
@@ -45,13 +30,6 @@ class frmMain : public QMainWindow {
   frmMain& operator=(const frmMain&) = delete;
   ~frmMain() override;
 
-  Program& Shared() { return program_; }
-
-  // What the entries do beyond opening a window.
-  void SetProject();
-  void ImportSurvey(bool transect);
-  void Exit();
-
  protected:
   void changeEvent(QEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
@@ -59,18 +37,21 @@ class frmMain : public QMainWindow {
   void dropEvent(QDropEvent* event) override;
 
  private:
-  void MakeMenus();
+  [[nodiscard]] std::vector<MenuLine> MenuLines();
+  void SetProject();
+  void ImportSurvey(bool transect);
+  void Exit();
   void MakeContent();
   QWidget* MakeBanner();
   QWidget* MakeStart();
   void Place();
   void TickBanner();
   void Mirror();
-  void MirrorMenus();
   void MirrorStart();
   void AskSurveyType(const QString& file, QPoint where);
 
   Program& program_;
+  Menus menus_;
   Banner banner_;
   QTimer* timer1_;
   std::array<QLabel*, 3> bannerLabels_;

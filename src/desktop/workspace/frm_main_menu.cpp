@@ -2,7 +2,6 @@
 #include "desktop/design/frm_srs.h"
 #include "desktop/graphics/frm_site_map.h"
 #include "desktop/graphics/frm_svy_graph.h"
-#include "desktop/program/child_window.h"
 #include "desktop/program/help_request.h"
 #include "desktop/signal/frm_sig_decorr.h"
 #include "desktop/signal/frm_sig_val.h"
@@ -17,67 +16,55 @@ namespace veln {
 namespace {
 
 template <class Window>
-void Open(frmMain& main)
+std::function<void()> Shows(Program& program)
 {
-  main.Shared().Show<Window>();
+  return [&program] { program.Show<Window>(); };
 }
-
-void ViewOutput(frmMain& main)
-{
-  main.Shared().Try([&main] { ViewOutputFiles(main.Shared().State, main.Shared().Ask()); });
-}
-
-using enum MenuEntry;
-
-// The keys of captions are unique within their menu.
-const std::array<MainMenuLine, 24> Lines = {{
-    {"mnuFile", nullptr, "&File"},
-    {"mnuProject", "mnuFile", "Set / Create &Project and Field ID", mnuProject,
-     [](frmMain& main) { main.SetProject(); }},
-    {"mnuImport", "mnuFile", "&Import Survey Data File", mnuImport},
-    {"mnuIGSF", "mnuImport", "Import a &Grid Survey File", mnuImport,
-     [](frmMain& main) { main.ImportSurvey(false); }, "Ctrl+G"},
-    {"mnuITSF", "mnuImport", "Import a &Transect Survey File", mnuImport,
-     [](frmMain& main) { main.ImportSurvey(true); }, "Ctrl+T"},
-    {"mnuVPOF", "mnuFile", "&View / Print Output Files", mnuVPOF, ViewOutput},
-    {"mnuExit", "mnuFile", "E&xit", {}, [](frmMain& main) { main.Exit(); }, "Ctrl+Q"},
-    {"mnuG", nullptr, "&Graph"},
-    {"mnuSG", "mnuG", "&Open Graphics Window", mnuSG, Open<frmSvyGraph>},
-    {"mnuA", nullptr, "&Analysis"},
-    {"mnuStats", "mnuA", "&Basic Statistics", mnuStats, Open<frmBasicStats>},
-    {"mnuSigD", "mnuA", "Signal &Decorrelation", mnuSigD, Open<frmSigDecorr>},
-    {"mnuSigV", "mnuA", "Signal &Validation", mnuSigV, Open<frmSigVal>},
-    {"mnuD", nullptr, "&Design"},
-    {"mnuSRS", "mnuD", "&Calculate SRS Sample Design", mnuSRS, Open<frmSRS>},
-    {"mnuMask", "mnuD", "&Manual Sample Site Selection", mnuMask, Open<frmMask>},
-    {"mnuSHowMap", "mnuD", "&Display Sample Site Map", mnuSHowMap, Open<frmSiteMap>},
-    {"mnuHelp", nullptr, "&Help"},
-    {"mnuAbout", "mnuHelp", "&About VELN-QTRD ", {}, Open<frmAbout>},
-    {"mnuEIC", "mnuHelp", "VELN &Interface Controls", {}, Open<frmFileIO>},
-    {"mnuMHelp", "mnuHelp", "&OnLine Help"},
-    {"mnuMH1",
-     "mnuMHelp",
-     "&What is VELN-QTRD",
-     {},
-     [](frmMain& main) { RequestHelp(main.Shared(), "hdoc14"); }},
-    {"mnuMH2",
-     "mnuMHelp",
-     "&Navigating the Main Menu",
-     {},
-     [](frmMain& main) { RequestHelp(main.Shared(), "hdoc15"); },
-     "F1"},
-    {"mnuMH3",
-     "mnuMHelp",
-     "&Frequently Asked Questions",
-     {},
-     [](frmMain& main) { RequestHelp(main.Shared(), "hdoc16"); }},
-}};
 
 }  // namespace
 
-std::span<const MainMenuLine> MainMenu()
+// The keys of captions are unique within their menu.
+std::vector<MenuLine> frmMain::MenuLines()
 {
-  return Lines;
+  using enum MenuEntry;
+  Program& program = program_;
+  const auto help = [&program](const char* document) {
+    return [&program, document] { RequestHelp(program, document); };
+  };
+  const auto import = [this](bool transect) { return [this, transect] { ImportSurvey(transect); }; };
+  const auto viewOutput = [&program] {
+    program.Try([&program] { ViewOutputFiles(program.State, program.Ask()); });
+  };
+  const auto gate = [&program](MenuEntry entry) {
+    return [&program, entry] { return program.State.Menu.IsEnabled(entry); };
+  };
+  return {
+      {"mnuFile", nullptr, "&File"},
+      {"mnuProject", "mnuFile", "Set / Create &Project and Field ID", [this] { SetProject(); }, "",
+       gate(mnuProject)},
+      {"mnuImport", "mnuFile", "&Import Survey Data File", {}, "", gate(mnuImport)},
+      {"mnuIGSF", "mnuImport", "Import a &Grid Survey File", import(false), "Ctrl+G", gate(mnuImport)},
+      {"mnuITSF", "mnuImport", "Import a &Transect Survey File", import(true), "Ctrl+T", gate(mnuImport)},
+      {"mnuVPOF", "mnuFile", "&View / Print Output Files", viewOutput, "", gate(mnuVPOF)},
+      {"mnuExit", "mnuFile", "E&xit", [this] { Exit(); }, "Ctrl+Q"},
+      {"mnuG", nullptr, "&Graph"},
+      {"mnuSG", "mnuG", "&Open Graphics Window", Shows<frmSvyGraph>(program), "", gate(mnuSG)},
+      {"mnuA", nullptr, "&Analysis"},
+      {"mnuStats", "mnuA", "&Basic Statistics", Shows<frmBasicStats>(program), "", gate(mnuStats)},
+      {"mnuSigD", "mnuA", "Signal &Decorrelation", Shows<frmSigDecorr>(program), "", gate(mnuSigD)},
+      {"mnuSigV", "mnuA", "Signal &Validation", Shows<frmSigVal>(program), "", gate(mnuSigV)},
+      {"mnuD", nullptr, "&Design"},
+      {"mnuSRS", "mnuD", "&Calculate SRS Sample Design", Shows<frmSRS>(program), "", gate(mnuSRS)},
+      {"mnuMask", "mnuD", "&Manual Sample Site Selection", Shows<frmMask>(program), "", gate(mnuMask)},
+      {"mnuSHowMap", "mnuD", "&Display Sample Site Map", Shows<frmSiteMap>(program), "", gate(mnuSHowMap)},
+      {"mnuHelp", nullptr, "&Help"},
+      {"mnuAbout", "mnuHelp", "&About VELN-QTRD ", Shows<frmAbout>(program)},
+      {"mnuEIC", "mnuHelp", "VELN &Interface Controls", Shows<frmFileIO>(program)},
+      {"mnuMHelp", "mnuHelp", "&OnLine Help"},
+      {"mnuMH1", "mnuMHelp", "&What is VELN-QTRD", help("hdoc14")},
+      {"mnuMH2", "mnuMHelp", "&Navigating the Main Menu", help("hdoc15"), "F1"},
+      {"mnuMH3", "mnuMHelp", "&Frequently Asked Questions", help("hdoc16")},
+  };
 }
 
 }  // namespace veln

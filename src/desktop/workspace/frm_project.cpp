@@ -2,150 +2,104 @@
 
 #include "desktop/parts/character_filter.h"
 #include "desktop/parts/controls.h"
+#include "desktop/parts/fields.h"
 #include "desktop/parts/filtered_edit.h"
+#include "desktop/parts/layout.h"
 #include "toolkit/utf8.h"
 #include "workspace/project.h"
 
 #include <QGridLayout>
-#include <QGroupBox>
-#include <QHBoxLayout>
-#include <QLabel>
 #include <QListWidget>
-#include <QPushButton>
 #include <QSignalBlocker>
-#include <QVBoxLayout>
 
 namespace veln {
 
 frmProject::frmProject(Program& program, QWidget* parent)
-    : ChildWindow(program, parent,
-                  {Name,
-                   "Create / Set Project and Define Field ID Code",
-                   {1000, 750},
-                   "hdoc04",
-                   MenuEntry::mnuProject}),
-      form_(LoadProjectForm(program.State, program.Ask()))
+    : FormWindow(program, parent,
+                 {Name, "Create / Set Project and Define Field ID Code", "hdoc04", MenuEntry::mnuProject},
+                 LoadProjectForm(program.State, program.Ask()))
 {
-  auto* layout = new QVBoxLayout(this);
-  layout->setContentsMargins(WindowMargin, WindowMargin, WindowMargin, WindowMargin);
-  layout->setSpacing(LargeGap);
-  auto* top = new QHBoxLayout;
-  top->setSpacing(LargeGap);
-  top->addWidget(MakeProjectList(), 1);
-  top->addWidget(MakeCreation(), 1);
-  layout->addLayout(top, 1);
-  layout->addWidget(MakeIdentity());
-
-  auto* buttons = new QHBoxLayout;
-  buttons->addWidget(HelpButton("CHelp"));
-  buttons->addStretch();
+  QLayout* top = Row({{MakeProjectList(), 1}, {MakeCreation(), 1}}, LargeGap);
+  QGroupBox* identity = MakeIdentity();
+  QPushButton* help = HelpButton("CHelp");
   QPushButton* cancel =
-      MakeButton(this, "Command2", "&Cancel", " exit without creating project or field ID ");
-  accept_ = MakeButton(this, "Command1", "&OK", " create project and field ID specified above ");
-  accept_->setDefault(true);
+      MakeButton(this, "Command2", "&Cancel", " exit without creating project or field ID ", Leaves());
+  accept_ = MakeButton(this, "Command1", "&OK", " create project and field ID specified above ",
+                       [this] { Accept(); });
   KeepRoom(*accept_);
-  buttons->addWidget(cancel);
-  buttons->addWidget(accept_);
-  layout->addLayout(buttons);
-  connect(cancel, &QPushButton::clicked, this, [this] { Unload(); });
-  connect(accept_, &QPushButton::clicked, this, [this] { Accept(); });
+  SetColumn(*this, {{top, 1}, identity, ButtonRow({help, cancel, accept_})});
   Mirror();
 }
 
 QGroupBox* frmProject::MakeProjectList()
 {
-  auto* frame = new QGroupBox("Set Current Project Directory", this);
-  frame->setObjectName("Frame2");
-  auto* column = new QVBoxLayout(frame);
-  projects_ = new QListWidget(frame);
+  projects_ = new QListWidget(this);
   projects_->setObjectName("List1");
   projects_->setAccessibleName("Projects");
   projects_->setToolTip(" select a project name from list to set the current project ");
-  column->addWidget(projects_);
   connect(projects_, &QListWidget::itemSelectionChanged, this, [this] {
     const QList<QListWidgetItem*> selected = projects_->selectedItems();
     if (!selected.isEmpty()) {
-      ChooseProject(form_, form_.List1.at(projects_->row(selected.constFirst())));
+      const int row = projects_->row(selected.constFirst());
+      ChooseProject(form_, form_.List1.at(static_cast<std::size_t>(row)));
       Mirror();
     }
   });
-  return frame;
+  return Frame(this, "Frame2", "Set Current Project Directory", Column({projects_}));
 }
 
 QGroupBox* frmProject::MakeCreation()
 {
-  auto* frame = new QGroupBox("Create a New Project Directory", this);
-  frame->setObjectName("Frame3");
-  auto* grid = new QGridLayout(frame);
-  begin_ = MakeButton(frame, "Command5", "&New", " begin new project creation process ");
-  name_ = new FilteredEdit(
-      frame, [this](const Keystroke& key) { return KeyInProjectName(form_, key, Shared().Ask()); });
-  name_->setObjectName("Text1");
-  name_->setToolTip(" type in your new project name here ");
-  nameCaption_ = MakeFieldLabel(frame, "Label3", "Project N&ame:", name_);
-  create_ = MakeButton(frame, "Command3", "C&reate", " create the specified project ");
-  cancelCreation_ = MakeButton(frame, "Command4", "Cance&l", " cancel project creation process ");
-  grid->addWidget(begin_, 0, 0, 1, 2, Qt::AlignLeft);
-  grid->addWidget(nameCaption_, 1, 0, 1, 2);
-  grid->addWidget(name_, 2, 0, 1, 2);
-  grid->addWidget(create_, 3, 0);
-  grid->addWidget(cancelCreation_, 3, 1);
-  grid->setRowStretch(4, 1);
-  for (QWidget* control : {static_cast<QWidget*>(nameCaption_), static_cast<QWidget*>(name_),
-                           static_cast<QWidget*>(create_), static_cast<QWidget*>(cancelCreation_)}) {
-    KeepRoom(*control);
-  }
-  connect(begin_, &QPushButton::clicked, this, [this] {
+  QPushButton* begin = MakeButton(this, "Command5", "&New", " begin new project creation process ", [this] {
     BeginProjectCreation(form_);
     Mirror();
     name_->setFocus();
   });
-  connect(create_, &QPushButton::clicked, this, [this] {
+  name_ =
+      new FilteredEdit(this, "Text1", " type in your new project name here ",
+                       [this](const Keystroke& key) { return KeyInProjectName(form_, key, Shared().Ask()); });
+  nameCaption_ = MakeFieldLabel(this, "Label3", "Project N&ame:", name_);
+  create_ = MakeButton(this, "Command3", "C&reate", " create the specified project ", [this] {
     CreateProject(form_, State(), Shared().Ask());
     Mirror();
   });
-  connect(cancelCreation_, &QPushButton::clicked, this, [this] {
-    CancelProjectCreation(form_);
-    Mirror();
-  });
-  return frame;
+  cancelCreation_ = MakeButton(this, "Command4", "Cance&l", " cancel project creation process ",
+                               Does(CancelProjectCreation));
+  for (QWidget* control : std::initializer_list<QWidget*>{nameCaption_, name_, create_, cancelCreation_}) {
+    KeepRoom(*control);
+  }
+  return Frame(this, "Frame3", "Create a New Project Directory",
+               Column({Row({begin, LayoutItem::Rest()}), nameCaption_, name_,
+                       Row({{create_, 1}, {cancelCreation_, 1}}), LayoutItem::Rest()}));
 }
 
 QGroupBox* frmProject::MakeIdentity()
 {
-  auto* frame = new QGroupBox("Project / Field ID Information", this);
-  frame->setObjectName("Frame1");
-  auto* grid = new QGridLayout(frame);
-  project_ = MakeElidedLabel(frame, "LblPrj", "Project:");
-  fieldId_ = MakeValueLabel(frame, "LblFID", "Field ID:");
+  project_ = MakeElidedLabel(this, "LblPrj", "Project:");
+  fieldId_ = MakeValueLabel(this, "LblFID", "Field ID:");
   KeepRoom(*fieldId_);
-  description_ = new QLineEdit(frame);
-  description_->setObjectName("Text2");
-  description_->setToolTip(" type in the field description or title here ");
-  description_->setMaxLength(LongestDescription);
+  description_ = MakeEdit(this, "Text2", " type in the field description or title here ", LongestDescription,
+                          [this](const std::string& text) { form_.Text2 = text; });
   DropCharacters(*description_, IsControlCharacter, Shared().Ask());
-  code_ = new FilteredEdit(frame, [this](const Keystroke& key) {
+  code_ = new FilteredEdit(this, "Text3", " type in the field ID here ", [this](const Keystroke& key) {
     const bool passes = KeyInFieldId(form_, key, Shared().Ask());
     MirrorFieldId();
     return passes;
   });
-  code_->setObjectName("Text3");
-  code_->setToolTip(" type in the field ID here ");
   code_->setMaxLength(FieldIdLength);
-  grid->addWidget(MakeText(frame, "Label1", "Project:"), 0, 0);
+  auto* grid = new QGridLayout;
+  grid->addWidget(MakeText(this, "Label1", "Project:"), 0, 0);
   grid->addWidget(project_, 0, 1);
-  grid->addWidget(MakeText(frame, "Label2", "Field ID:"), 1, 0);
+  grid->addWidget(MakeText(this, "Label2", "Field ID:"), 1, 0);
   grid->addWidget(fieldId_, 1, 1);
-  grid->addWidget(MakeFieldLabel(frame, "Label4", "Field &Description:", description_), 2, 0);
+  grid->addWidget(MakeFieldLabel(this, "Label4", "Field &Description:", description_), 2, 0);
   grid->addWidget(description_, 2, 1);
-  QLabel* codeCaption = MakeFieldLabel(
-      frame, "Label5", "Please enter a unique 4 character alpha-numeric &field ID code:", code_);
-  grid->addWidget(codeCaption, 3, 0, 1, 2);
+  grid->addWidget(MakeFieldLabel(this, "Label5",
+                                 "Please enter a unique 4 character alpha-numeric &field ID code:", code_),
+                  3, 0, 1, 2);
   grid->addWidget(code_, 4, 0, 1, 2);
   grid->setColumnStretch(1, 1);
-  connect(description_, &QLineEdit::textChanged, this,
-          [this](const QString& text) { form_.Text2 = FromQt(text); });
-  return frame;
+  return Frame(this, "Frame1", "Project / Field ID Information", grid);
 }
 
 void frmProject::Accept()
@@ -196,10 +150,7 @@ void frmProject::Mirror()
   MirrorFieldId();
   name_->Show(ToQt(form_.Text1));
   code_->Show(ToQt(form_.Text3));
-  for (QWidget* control : {static_cast<QWidget*>(nameCaption_), static_cast<QWidget*>(name_),
-                           static_cast<QWidget*>(create_), static_cast<QWidget*>(cancelCreation_)}) {
-    control->setVisible(form_.CreationVisible);
-  }
+  SetShown({nameCaption_, name_, create_, cancelCreation_}, form_.CreationVisible);
 }
 
 }  // namespace veln

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "desktop/program/child_window.h"
+#include "desktop/program/form_window.h"
 #include "forms/project_form.h"
 
 class QGroupBox;
@@ -14,7 +14,7 @@ namespace veln {
 class FilteredEdit;
 
 /// "Create / Set Project and Define Field ID Code".
-class frmProject : public ChildWindow {
+class frmProject : public FormWindow<ProjectForm> {
  public:
   static constexpr const char* Name = "frmProject";
 
@@ -25,13 +25,11 @@ class frmProject : public ChildWindow {
   QGroupBox* MakeCreation();
   QGroupBox* MakeIdentity();
   void Accept();
-  void Mirror();
+  void Mirror() final;
   void MirrorProjects();
   void MirrorFieldId();
 
-  ProjectForm form_;
   QListWidget* projects_;
-  QPushButton* begin_;
   QLabel* nameCaption_;
   FilteredEdit* name_;
   QPushButton* create_;

@@ -1,6 +1,7 @@
 #include "desktop/workspace/status_cards.h"
 
 #include "desktop/parts/controls.h"
+#include "desktop/parts/layout.h"
 #include "toolkit/number_text.h"
 #include "workspace/captions.h"
 #include "workspace/survey_state.h"
