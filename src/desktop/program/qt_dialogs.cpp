@@ -13,11 +13,12 @@ namespace veln {
 namespace {
 
 QMessageBox::StandardButton ShowBox(QMessageBox::Icon icon, const std::string& text,
-                                    QMessageBox::StandardButtons buttons)
+                                    QMessageBox::StandardButtons buttons, QMessageBox::StandardButton byEnter)
 {
   QMessageBox box(icon, ProgramTitle, ToQt(text), buttons, QApplication::activeWindow());
   box.setObjectName("MsgBox");
   box.setTextFormat(Qt::PlainText);
+  box.setDefaultButton(byEnter);
   const bool busy = QGuiApplication::overrideCursor() != nullptr;
   if (busy) {
     QGuiApplication::setOverrideCursor(Qt::ArrowCursor);  // while the user is asked, nothing works on
@@ -33,17 +34,20 @@ QMessageBox::StandardButton ShowBox(QMessageBox::Icon icon, const std::string& t
 
 void QtDialogs::Inform(const std::string& text)
 {
-  ShowBox(QMessageBox::Information, text, QMessageBox::Ok);
+  ShowBox(QMessageBox::Information, text, QMessageBox::Ok, QMessageBox::Ok);
 }
 
 void QtDialogs::Warn(const std::string& text)
 {
-  ShowBox(QMessageBox::Warning, text, QMessageBox::Ok);
+  ShowBox(QMessageBox::Warning, text, QMessageBox::Ok, QMessageBox::Ok);
 }
 
-bool QtDialogs::Ask(Question /*question*/, const std::string& text)
+/// Enter loses nothing.
+bool QtDialogs::Ask(Question question, const std::string& text)
 {
-  return ShowBox(QMessageBox::Question, text, QMessageBox::Yes | QMessageBox::No) == QMessageBox::Yes;
+  const auto byEnter = YesLoses(question) ? QMessageBox::No : QMessageBox::Yes;
+  return ShowBox(QMessageBox::Question, text, QMessageBox::Yes | QMessageBox::No, byEnter) ==
+         QMessageBox::Yes;
 }
 
 void QtDialogs::Beep()
