@@ -29,6 +29,40 @@ inline void Settle()
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
 }
 
+/// Answers every question with `Always`, if it has one, otherwise as scripted.
+class DeskDialogs : public ScriptedDialogs {
+ public:
+  std::optional<bool> Always;
+
+  bool Ask(Question question, const std::string& text) override
+  {
+    if (!Always) {
+      return ScriptedDialogs::Ask(question, text);
+    }
+    Said.push_back("ask: " + text);
+    return *Always;
+  }
+};
+
+/// Holds the timers of windows still: they tick when a test lets them.
+class HandTimers : public QObject {
+ public:
+  HandTimers() { qApp->installEventFilter(this); }
+  bool eventFilter(QObject* object, QEvent* event) override
+  {
+    return event->type() == QEvent::Timer && object->objectName() == "Timer1";
+  }
+
+  /// Lets the timer of an open window tick, as often as it still runs.
+  static void Tick(const QWidget& window, int times = 1)
+  {
+    auto* timer = window.findChild<QTimer*>("Timer1");
+    for (int i = 0; i < times && timer != nullptr && timer->isActive(); ++i) {
+      QMetaObject::invokeMethod(timer, "timeout", Qt::DirectConnection);
+    }
+  }
+};
+
 /// A program without a main window: its directory has `data/demo` and an empty `helpdocs`, dialogs are
 /// answered from a script, the date stands still, and ending the program is only counted.
 class DesktopTest : public testing::Test {
@@ -43,7 +77,9 @@ class DesktopTest : public testing::Test {
     Shared.Quit = [this] { ++Ended; };
   }
 
-  void TearDown() override
+  void TearDown() override { CloseWindows(); }
+
+  static void CloseWindows()
   {
     std::vector<QPointer<QWidget>> windows;  // a window takes its menus with it
     for (QWidget* window : QApplication::topLevelWidgets()) {
@@ -126,60 +162,38 @@ class DesktopTest : public testing::Test {
   /// Whether a control is to be seen, scrolled away or not.
   static bool Shown(const char* window, const char* name) { return Control(window, name).isVisible(); }
 
-  /// Chooses an entry of a window's menus by the mouse. False if it, or a menu above it, is disabled.
-  static bool ChooseFrom(QMenuBar& bar, QAction& entry)
+  /// Chooses an entry of a window's menus. False if it, or a menu above it, is disabled.
+  static bool ChooseFrom(QAction& entry)
   {
-    const bool open = OpenMenuOf(bar, entry) && entry.isEnabled();
-    if (open) {
-      QMenu* menu = MenuOf(entry);
-      QTest::mouseClick(menu, Qt::LeftButton, {}, menu->actionGeometry(&entry).center());
+    bool open = true;
+    for (QAction* line = &entry; line != nullptr && open; line = Above(*line)) {
+      open = line->isEnabled();
     }
-    while (QWidget* popup = QApplication::activePopupWidget()) {
-      popup->close();
+    if (open) {
+      entry.trigger();
     }
     Settle();
     return open;
   }
 
+  HandTimers Timers;
   TemporaryDirectory Directory;
-  ScriptedDialogs Asked;
+  DeskDialogs Asked;
   QSettings Places{QString::fromStdString((Directory / "places.ini").string()), QSettings::IniFormat};
   Program Shared{Asked, [] { return std::string("2026-11-22 14:05:09"); }, Places};
   int Ended = 0;  ///< how often the program was to end
 
  private:
-  /// The menu that an entry stands in; null for one of the menu bar, which also stands in the bar's own
-  /// overflow menu.
-  static QMenu* MenuOf(const QAction& action)
+  /// The submenu that an entry stands in, as an entry; null in the menu bar.
+  static QAction* Above(const QAction& action)
   {
-    QMenu* menu = nullptr;
     for (QObject* object : action.associatedObjects()) {
-      if (dynamic_cast<QMenuBar*>(object) != nullptr) {
-        return nullptr;
+      if (const auto* menu = dynamic_cast<QMenu*>(object);
+          menu != nullptr && !menu->objectName().startsWith("qt_")) {
+        return menu->menuAction();
       }
-      menu = dynamic_cast<QMenu*>(object);
     }
-    return menu;
-  }
-
-  static bool OpenMenuOf(QMenuBar& bar, QAction& action)
-  {
-    QMenu* menu = MenuOf(action);
-    if (menu == nullptr) {
-      return false;
-    }
-    QAction* opener = menu->menuAction();
-    if (MenuOf(*opener) == nullptr) {
-      QTest::mouseClick(&bar, Qt::LeftButton, {}, bar.actionGeometry(opener).center());
-    } else {
-      if (!OpenMenuOf(bar, *opener) || !opener->isEnabled()) {
-        return false;
-      }
-      QMenu* above = MenuOf(*opener);
-      QTest::mouseClick(above, Qt::LeftButton, {}, above->actionGeometry(opener).center());
-    }
-    // Submenus open after a moment.
-    return QTest::qWaitFor([menu] { return menu->isVisible(); }, 1000);
+    return nullptr;
   }
 };
 
@@ -218,8 +232,8 @@ class MainWindowTest : public DesktopTest {
     return *action;
   }
 
-  /// Chooses an entry of the main window by the mouse. False if it can't be chosen.
-  bool Choose(const char* name) { return ChooseFrom(*Main->menuBar(), Entry(name)); }
+  /// Chooses an entry of the main window. False if it can't be chosen.
+  bool Choose(const char* name) { return ChooseFrom(Entry(name)); }
 
   std::unique_ptr<frmMain> Main;
 };

@@ -52,42 +52,7 @@ class FrmStructure : public DesktopTest {
   [[nodiscard]] QString RawPath() const { return QString::fromStdString((Directory / "raw.txt").string()); }
 
   static QTableWidget& Preview() { return Control<QTableWidget>("frmStructure", "preview"); }
-  static bool Checked(const char* name) { return Control<QAbstractButton>("frmStructure", name).isChecked(); }
-  static QColor ColourOf(const char* name)
-  {
-    return Control("frmStructure", name).palette().color(QPalette::Active, QPalette::WindowText);
-  }
 };
-
-TEST_F(FrmStructure, StartsWithTheGivenState)
-{
-  EXPECT_TRUE(Checked("Check3") && Checked("Option2"));
-  EXPECT_FALSE(Checked("Check1") || Checked("Check2") || Checked("Check4") || Checked("Option1"));
-  EXPECT_EQ(Text("frmStructure", "Text1") + Text("frmStructure", "Text2"), "EMvEMh");
-  for (const char* hidden : {"Label8", "Text2", "Label12", "Label13", "Label14", "Label15"}) {
-    EXPECT_FALSE(Shown("frmStructure", hidden)) << hidden;
-  }
-  EXPECT_EQ(ColourOf("Check1"), QColor(0, 128, 0));
-  EXPECT_THAT(Text("frmStructure", "Label9"), HasSubstr("row-num"));
-  EXPECT_TRUE(Shown("frmStructure", "Label5"));
-  Shared.Find<frmStructure>()->SetSurveyType(false);
-  EXPECT_FALSE(Shown("frmStructure", "Label5"));
-}
-
-TEST_F(FrmStructure, BrowseFillsThePathAndCancelEmptiesIt)
-{
-  Asked.ChooseFile(Directory / "raw.txt");
-  Click("frmStructure", "Command3");
-  EXPECT_EQ(Text("frmStructure", "Text3"), RawPath().toStdString());
-  EXPECT_EQ(Asked.Questions.at(0).DialogTitle, "File Browse");
-  EXPECT_EQ(Asked.Questions.at(0).InitDir, Shared.State.InputFilePath);
-  EXPECT_EQ(Asked.Questions.at(0).Filter.at(0).Text, "all input file types (*.*)");
-  Click("frmStructure", "Command3");
-  Asked.Said.clear();
-  Click("frmStructure", "Command1");
-  EXPECT_THAT(Asked.Said,
-              ElementsAre("beep", "warn: Error! File not found! Please re-enter filename information..."));
-}
 
 TEST_F(FrmStructure, PreviewMarksTheFirstItemThatWouldBeRefused)
 {
@@ -104,18 +69,6 @@ TEST_F(FrmStructure, PreviewMarksTheFirstItemThatWouldBeRefused)
   Click("frmStructure", "Check1");
   EXPECT_FALSE(Preview().item(0, 0)->font().bold());
   EXPECT_TRUE(Shared.State == before);
-}
-
-TEST_F(FrmStructure, FailedImportKeepsWindowAndRecord)
-{
-  Name("x,y,s1,row\n" + RawFileText(TransectSurvey(5, 10, 1), {true, false, false}));
-  const SurveyState before = Shared.State;
-  QTest::keyClick(&Control("frmStructure", "Text3"), Qt::Key_Return);
-  Settle();
-  EXPECT_THAT(Asked.Said, ElementsAre(StartsWith("warn: Error!  Non-numeric data was detected")));
-  EXPECT_EQ(Text("frmStructure", "Text3"), RawPath().toStdString());
-  EXPECT_TRUE(Shared.State == before);
-  EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
 TEST_F(FrmStructure, ImportFillsTheRecordAndClosesTheWindow)

@@ -44,10 +44,9 @@ class GraphicsTest : public DesktopTest {
   frmSvyGraph& Graphics() { return *Shared.Find<frmSvyGraph>(); }
   PlotPane& Pane() { return Control<PlotPane>("frmSvyGraph", "PlotBox"); }
 
-  /// Chooses an entry of a window's menus by the mouse.
   static bool Choose(const char* name, const char* window = "frmSvyGraph")
   {
-    return ChooseFrom(Control<QMenuBar>(window, ""), Entry(name, window));
+    return ChooseFrom(Entry(name, window));
   }
   static QAction& Entry(const char* name, const char* window = "frmSvyGraph")
   {

@@ -12,53 +12,8 @@
 namespace veln {
 namespace {
 
-/// Menu entries with their captions, by what opens them: "" always, "2" two signals, "d" a decorrelation,
-/// "d2" both, "t" a transition analysis.
-const std::map<std::string, std::vector<std::string>> Given = {
-    {"",
-     {"mnuG: Graphics",
-      "mnuGrid: Survey Grid",
-      "mnuScatter: Scatter Plots",
-      "mnuSs1x: s1 vs x",
-      "mnuSs1y: s1 vs y",
-      "mnuLs1: s1 by row",
-      "mnuHist: Histograms",
-      "mnuHs1: s1",
-      "mnuCSG: ColorScale Grids",
-      "mnuVs1: s1",
-      "savePicture: Save picture...",
-      "copyPicture: Copy",
-      "mnuO: Options",
-      "mnuIGC: Initialize Graphic Components",
-      "mnuPCT: Perform Coordinate Translation",
-      "mnuP: Print",
-      "mnuPrint: Print Current Graph",
-      "printPreview: Print Preview",
-      "mnuHelp: Help",
-      "mnuGHelp: OnLine Help",
-      "mnuGH1: Navigating the Graphics Menu",
-      "mnuGH2: Graph Descriptions / Information",
-      "mnuR: Exit",
-      "mnuReturn: Return to Main VELN Program Menu"}},
-    {"2", {"mnuSs2x: s2 vs x", "mnuSs2y: s2 vs y", "mnuSs1s2: s1 vs s2", "mnuHs2: s2", "mnuVs2: s2"}},
-    {"d", {"mnuSz1z2: rsd plot", "mnuHz1: z1", "mnuVz1: z1"}},
-    {"never",
-     {"mnuLine: Line Plots", "mnuLs2: s2 by row", "mnuLs1s2: s1 and s2 by row",
-      "mnuOSS: overlay sample sites"}},
-    {"d2", {"mnuHz2: z2", "mnuVz2: z2"}},
-    {"t", {"mnuHta: trans analysis", "mnuVta: trans analysis"}}};
-
 class FrmSvyGraph : public GraphicsTest {
  protected:
-  void OpenLinePlots()
-  {
-    Open(SurveyWithDesigns());
-    ASSERT_TRUE(Choose("mnuIGC"));
-    for (const char* choice : {"Check1", "Option2", "Command2"}) {
-      Click("frmIGC", choice);
-    }
-    ASSERT_TRUE(Choose("mnuLs1s2"));
-  }
   /// Turns the wheel over a place of the plot.
   void Wheel(QPointF at, int notches)
   {
@@ -69,108 +24,16 @@ class FrmSvyGraph : public GraphicsTest {
   double X(const char* label) { return std::stod(Label(label)); }
 };
 
-TEST_F(FrmSvyGraph, OpensItsEntriesAsTheWorkGoesOn)
-{
-  const std::pair<SurveyState, std::set<std::string>> stages[] = {
-      {ImportedSurvey(GridSurvey(10, 10, 1)), {""}},
-      {ImportedSurvey(TransectSurvey(5, 20)), {"", "2"}},
-      {DecorrelatedSurvey(GridSurvey(10, 10, 1)), {"", "d"}},
-      {SurveyWithDesigns(), {"", "2", "d", "d2", "t"}}};
-  for (const auto& [state, open] : stages) {
-    Open(state);
-    EXPECT_EQ(Window("frmSvyGraph")->windowTitle(), "Interactive Survey Graphics Mode");
-    EXPECT_EQ(Label("txtTitle"), "Please use the Menu Bar to Select a Graph");
-    for (const auto& [openFrom, entries] : Given) {
-      for (const std::string& given : entries) {
-        const QAction& entry = Entry(given.substr(0, given.find(':')).c_str());
-        EXPECT_EQ((entry.objectName() + ": " + entry.text().remove('&')).toStdString(), given);
-        EXPECT_EQ(entry.isEnabled(), open.contains(openFrom)) << given;
-      }
-    }
-    for (const char* panel : {"Frame1", "Frame2", "Frame3"}) {
-      EXPECT_FALSE(Shown("frmSvyGraph", panel)) << panel;
-    }
-    ASSERT_TRUE(Choose("mnuReturn"));
-    EXPECT_EQ(Window("frmSvyGraph"), nullptr);
-  }
-}
-
 TEST_F(FrmSvyGraph, EveryEntryDraws)
 {
-  const std::map<std::string, std::vector<const char*>> panels = {
-      {"", {"mnuGrid", "mnuHta"}},
-      {"2",
-       {"mnuSs1x", "mnuSs1y", "mnuSs2x", "mnuSs2y", "mnuSs1s2", "mnuSz1z2", "mnuHs1", "mnuHs2", "mnuHz1",
-        "mnuHz2"}},
-      {"3", {"mnuVs1", "mnuVs2", "mnuVz1", "mnuVz2", "mnuVta"}}};  // by the number of the frame that shows
   Open(SurveyWithDesigns());
   const int frameAlone = Ink();
-  for (const auto& [panel, entries] : panels) {
-    for (const char* entry : entries) {
-      SCOPED_TRACE(entry);
-      ASSERT_TRUE(Choose(entry));
-      EXPECT_GT(Ink(), frameAlone + 100);
-      EXPECT_FALSE(Shown("frmSvyGraph", "Frame1"));
-      EXPECT_EQ(Shown("frmSvyGraph", "Frame2"), panel == "2");
-      EXPECT_EQ(Shown("frmSvyGraph", "Frame3"), panel == "3");
-      EXPECT_EQ(Entry("mnuOSS").isEnabled(), panel == "3");
-      for (const char* label : {"txtMinX", "txtMedX", "txtMaxX", "txtMinY", "txtMedY", "txtMaxY"}) {
-        EXPECT_NE(Label(label), "") << label;
-      }
-      EXPECT_THAT(Pane().accessibleDescription().toStdString(),
-                  AllOf(StartsWith(Label("txtTitle")), HasSubstr(Label("txtMaxX"))));
-    }
+  for (const char* entry :
+       {"mnuGrid", "mnuHta", "mnuSs1x", "mnuSs1y", "mnuSs2x", "mnuSs2y", "mnuSs1s2", "mnuSz1z2", "mnuHs1",
+        "mnuHs2", "mnuHz1", "mnuHz2", "mnuVs1", "mnuVs2", "mnuVz1", "mnuVz2", "mnuVta"}) {
+    ASSERT_TRUE(Choose(entry)) << entry;
+    EXPECT_GT(Ink(), frameAlone + 100) << entry;
   }
-  EXPECT_EQ(Label("txtTitle"), "ColorScale Map of z1 Transition Signal Variability");
-  EXPECT_EQ(Window("frmSvyGraph")->cursor().shape(), Qt::ArrowCursor);
-}
-
-TEST_F(FrmSvyGraph, LinePlotsComeByWayOfTheOptions)
-{
-  OpenLinePlots();
-  EXPECT_EQ(Label("txtTitle"), "Please use Line Plot Buttons to select a row to Display");
-  EXPECT_TRUE(Shown("frmSvyGraph", "Frame1"));
-  const auto open = [] {
-    std::string look;
-    for (const char* name : {"Command1", "Command2", "Command6", "Command7"}) {
-      look += Control("frmSvyGraph", name).isEnabled() ? '+' : 'o';
-    }
-    return look;
-  };
-  EXPECT_EQ(open(), "+ooo");
-  const int frameAlone = Ink();
-  Click("frmSvyGraph", "Command1");
-  EXPECT_EQ(Label("Text1"), "2");
-  Click("frmSvyGraph", "Command3");
-  EXPECT_EQ(Label("txtTitle"), "EMv & EMh versus X for Row #2");
-  EXPECT_GT(Ink(), frameAlone + 100);
-  EXPECT_EQ(open(), "+++o");
-  Click("frmSvyGraph", "Command6");
-  EXPECT_EQ(Label("LblT1") + " " + Label("LblCorr"), "EMv Corr(s1, x)");
-  Click("frmSvyGraph", "Command7");
-  EXPECT_EQ(Label("LblT2") + " " + Label("LblCorr"), "EMh s1 s2 Corr");
-  Click("frmSvyGraph", "Command4");
-  EXPECT_EQ(Ink(), frameAlone);
-  Click("frmSvyGraph", "Command5");
-  EXPECT_FALSE(Shown("frmSvyGraph", "Frame1"));
-  EXPECT_EQ(Label("txtMinX"), "");
-}
-
-TEST_F(FrmSvyGraph, RowNumbersAreTypedInDigitsAndMustExist)
-{
-  OpenLinePlots();
-  Type("frmSvyGraph", "Text1", "9x");
-  EXPECT_EQ(Label("Text1"), "9");
-  EXPECT_EQ(Asked.Said.back(), "beep");
-  QTest::keyClick(&Control("frmSvyGraph", "Text1"), Qt::Key_Return);
-  EXPECT_EQ(Asked.Said.back(), "inform: Error! Requested Row # does not exist!");
-  QGuiApplication::clipboard()->setText("abc");
-  auto& row = Control<QLineEdit>("frmSvyGraph", "Text1");
-  row.selectAll();
-  QTest::keyClick(&row, Qt::Key_V, Qt::ControlModifier);
-  EXPECT_EQ(Label("Text1"), "abc");  // pasted text comes in, and is no number
-  Click("frmSvyGraph", "Command3");
-  EXPECT_EQ(Label("Text1"), "0");
 }
 
 TEST_F(FrmSvyGraph, ZoomAndPanMoveLabelsAndComeBack)
@@ -226,30 +89,6 @@ TEST_F(FrmSvyGraph, PointingAtASiteTellsIt)
   EXPECT_EQ(pointAt({1, 1}, {0, 0}), "");  // no sites in a histogram
 }
 
-TEST_F(FrmSvyGraph, OverlayAndLabelledMapTakeTheChosenDesigns)
-{
-  Open(SurveyWithDesigns());
-  ASSERT_TRUE(Choose("mnuVs1"));
-  ASSERT_TRUE(Choose("mnuOSS"));
-  for (const char* name : {"design1", "design2", "design6"}) {
-    EXPECT_TRUE(Control<QAbstractButton>("overlayChooser", name).isChecked()) << name;
-  }
-  EXPECT_EQ(Window("overlayChooser")->findChild<QWidget*>("design3"), nullptr);
-  Click("overlayChooser", "design2");
-  Click("overlayChooser", "design6");
-  Click("overlayChooser", "overlay");
-  EXPECT_EQ(Only<DotMark>(Graphics().Graph().Shown.Picture).size(), 102U);  // 100 sites and two of design 1
-  EXPECT_FALSE(Shown("frmSvyGraph", "Frame3"));
-
-  ASSERT_TRUE(Choose("mnuOSS"));
-  Click("overlayChooser", "labelledMap");
-  EXPECT_EQ(Only<TextMark>(Graphics().Graph().Shown.Picture).size(), 5U);
-  ASSERT_TRUE(Choose("mnuOSS"));
-  EXPECT_FALSE(Control("overlayChooser", "overlay").isEnabled());
-  ASSERT_TRUE(Choose("mnuGrid"));  // a plot without designs to lay over it
-  EXPECT_EQ(Window("overlayChooser"), nullptr);
-}
-
 TEST_F(FrmSvyGraph, OptionsRedrawTheMapOnScreen)
 {
   Open(SurveyWithDesigns());
@@ -268,41 +107,6 @@ TEST_F(FrmSvyGraph, OptionsRedrawTheMapOnScreen)
   Shared.State.Orientation.Degrees = 90;
   Shared.Changed();
   EXPECT_FALSE(Entry("northArrow").isEnabled());
-}
-
-TEST_F(FrmSvyGraph, LegendKeepsWhatItLoaded)
-{
-  Open(SurveyWithDesigns());
-  ASSERT_TRUE(Choose("mnuVs1"));
-  Click("frmSvyGraph", "Command8");
-  EXPECT_EQ(Window("frmLegend")->windowTitle(), "ColorScale Legend");
-  EXPECT_EQ(Text("frmLegend", "Label1"), "< 1 STD below Signal mean");
-  ASSERT_TRUE(Choose("mnuVta"));
-  EXPECT_EQ(Text("frmLegend", "Label1"), "< 1 STD below Signal mean");
-  Window("frmLegend")->close();
-  Settle();
-  Click("frmSvyGraph", "Command8");
-  EXPECT_EQ(Text("frmLegend", "Label1"), "z1 TA-STD < 0.5");
-}
-
-TEST_F(FrmSvyGraph, CompanionsCloseWithIt)
-{
-  Asked.Answer(true);
-  Open(SurveyWithDesigns());
-  ASSERT_TRUE(Choose("mnuVs1"));
-  Click("frmSvyGraph", "Command8");
-  ASSERT_TRUE(Choose("mnuIGC") && Choose("mnuOSS") && Choose("mnuPCT"));
-  for (const char* name : {"frmLegend", "frmIGC", "frmPCT", "overlayChooser"}) {
-    ASSERT_NE(Window(name), nullptr) << name;
-    EXPECT_EQ(Window(name)->parent(), Window("frmSvyGraph")) << name;  // it stays in front of it
-  }
-  QTest::keyClick(Window("frmSvyGraph"), Qt::Key_Escape);
-  Settle();
-  for (const char* name : {"frmSvyGraph", "frmLegend", "frmIGC", "frmPCT", "overlayChooser"}) {
-    EXPECT_EQ(Window(name), nullptr) << name;
-  }
-  Shared.Show<frmSvyGraph>();
-  EXPECT_EQ(Label("txtTitle"), "Please use the Menu Bar to Select a Graph");
 }
 
 TEST_F(FrmSvyGraph, StaysWhileTheSurveyChanges)

@@ -72,7 +72,7 @@ class WholeRoad : public MainWindowTest {
     Click("frmSRS", "Command4");
     Click("frmSRS", "Command3");
     ASSERT_FALSE(Main->close());
-    ASSERT_TRUE(QTest::qWaitFor([] { return Shown("frmOutFD", "Frame1"); }));
+    HandTimers::Tick(*Window("frmOutFD"), 2);
     Click("frmOutFD", "Command1");
   }
 
