@@ -2,7 +2,7 @@
 
 # What every build needs, and what the desktop program needs besides: a new library is one more word here.
 build_packages=(g++ cmake ninja-build ccache libcli11-dev nlohmann-json3-dev libgtest-dev libgmock-dev
-    libgeographiclib-dev)
+    libgeographiclib-dev libexpat1-dev)
 desktop_packages=(qt6-base-dev)
 
 # The compiler cache may look things up for sources with precompiled headers too, and takes the list of headers from

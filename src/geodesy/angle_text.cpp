@@ -129,6 +129,11 @@ std::optional<AngleParts> ReadParts(std::string_view text, AngleAxis axis)
 
 std::optional<double> ParseAngle(std::string_view text, AngleAxis axis, AngleForm form)
 {
+  if (form == AngleForm::Degrees && text.find_first_of("eE") == std::string_view::npos) {
+    if (const auto plain = ParseNumber(text)) {
+      return plain;  // what most files hold, the short way
+    }
+  }
   const auto parts = ReadParts(text, axis);
   if (!parts) {
     return std::nullopt;
