@@ -1,3 +1,4 @@
+#include "cli/convert_command.h"
 #include "cli/run_options.h"
 #include "cli/survey_run.h"
 #include "toolkit/program_end.h"
@@ -25,8 +26,22 @@ int ExitStatus(veln::RefusalKind kind)
   return 1;
 }
 
+int Convert(const std::vector<std::string>& arguments)
+{
+  const veln::ConvertCommandLine command = veln::ReadConvertCommandLine(arguments);
+  if (command.Convert) {
+    veln::RunConversion(*command.Convert, std::cout);
+  } else {
+    std::cout << command.Text;
+  }
+  return 0;
+}
+
 int Run(const std::vector<std::string>& arguments)
 {
+  if (!arguments.empty() && arguments.front() == "convert") {
+    return Convert({arguments.begin() + 1, arguments.end()});
+  }
   const veln::CommandLine command = veln::ReadCommandLine(arguments);
   if (!command.Run) {
     std::cout << command.Text;
@@ -50,6 +65,9 @@ int main(int argc, char** argv)
   } catch (const veln::Refusal& refusal) {
     std::cout.flush();
     std::cerr << refusal.Message() << "\n";
+    if (!refusal.Place().empty()) {
+      std::cerr << refusal.Place() << "\n";
+    }
     return ExitStatus(refusal.Kind());
   } catch (const std::bad_alloc&) {
     std::cerr << "There is not enough memory for this run.\n";

@@ -134,13 +134,24 @@ Json FilesOf(const RunRecord& record)
   return list;
 }
 
+Json AdviceOf(const RunRecord& record)
+{
+  Json list = Json::array();
+  for (const Advice& advice : record.Advices) {
+    list.push_back({{"code", advice.Code}, {"text", advice.Text}});
+  }
+  return list;
+}
+
 }  // namespace
 
 std::string ComposeRunJson(const RunOptions& options, const RunRecord& record, const SurveyState& state)
 {
   const ImportRequest& import = options.Import;
   const auto counted = [](const char* name) { return [name](int count) { return Json{{name, count}}; }; };
+  constexpr int Schema = 1;
   const Json document = {
+      {"schema", Schema},
       {"program", ProgramTitle},
       {"version", ProgramVersion},
       {"import",
@@ -162,7 +173,8 @@ std::string ComposeRunJson(const RunOptions& options, const RunRecord& record, c
       {"designs", DesignsOf(record)},
       {"manual", OrNull(record.ManualSites, [](const auto& sites) { return Json{{"sites", sites}}; })},
       {"files", FilesOf(record)},
-      {"notes", record.Notes}};
+      {"notes", record.Notes},
+      {"advice", AdviceOf(record)}};
   constexpr int Indent = 2;
   // A path may hold bytes that are not UTF-8; the document shows them as U+FFFD.
   return document.dump(Indent, ' ', false, Json::error_handler_t::replace) + "\n";

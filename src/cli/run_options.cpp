@@ -1,6 +1,7 @@
 #include "cli/run_options.h"
 
 #include "cli/output_check.h"
+#include "logger/sidecar_beside.h"
 #include "toolkit/number_text.h"
 #include "toolkit/output_target.h"
 #include "toolkit/refusal.h"
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <system_error>
+#include <utility>
 
 namespace veln {
 
@@ -22,10 +24,11 @@ struct RawOptions {
   std::string SurveyFile;
   std::string Root = ".", Project = "demo", Field = "FLD1", Description;
   bool Overwrite = false;
-  std::string Type = "grid";
+  std::optional<std::string> Type;
   bool SiteId = false, SecondSignal = false, Log = false;
   std::optional<std::string> Label1, Label2;
-  std::string Units = "mS/m";
+  std::optional<std::string> Units;
+  bool NoSidecar = false;
   std::optional<std::string> ConvertUnits;
   std::vector<std::string> Translations;
   std::string MaskingLevel = "3.50", OutlierLevel = "4.50", Rounds = "0";
@@ -71,6 +74,8 @@ void AddSurveyOptions(CLI::App& run, RawOptions& raw)
   AddValue(run, "--label1", raw.Label1, "TEXT", "Label of s1, up to 10 characters (default: EMv)");
   AddValue(run, "--label2", raw.Label2, "TEXT", "Label of s2, up to 10 characters (default: EMh)");
   AddValue(run, "--units", raw.Units, "mS/m|dS/m", "Units of the file's signals (default: mS/m)");
+  run.add_flag("--no-sidecar", raw.NoSidecar,
+               "Leave the .survey.json beside the file aside, which tells type, columns, labels and units");
   run.add_flag("--log", raw.Log, "Natural log transform at import");
   AddValue(run, "--convert-units", raw.ConvertUnits, "mS/m|dS/m", "Rescale the signals after import");
   AddRepeatable(run, "--translate", raw.Translations, "swap|rotate=DEG|reverse-x|reverse-y",
@@ -194,21 +199,19 @@ void RequireLabel(const std::string& option, const std::string& text)
 void ReadImport(const RawOptions& raw, RunOptions& options)
 {
   RequirePath("SURVEY_FILE", raw.SurveyFile);
-  RequireOneOf("--type", raw.Type, {"grid", "transect"});
-  const ConductivityUnits units = ReadUnits("--units", raw.Units);
+  const std::string type = raw.Type.value_or("grid");
+  RequireOneOf("--type", type, {"grid", "transect"});
+  const ConductivityUnits units = ReadUnits("--units", raw.Units.value_or("mS/m"));
   const std::string label1 = raw.Label1.value_or(raw.Log ? "log(EMv)" : "EMv");
   const std::string label2 = raw.Label2.value_or(raw.Log ? "log(EMh)" : "EMh");
   RequireLabel("--label1", label1);
   RequireLabel("--label2", label2);
-  options.Import = {raw.SurveyFile,
-                    {raw.Type == "transect", raw.SiteId, raw.SecondSignal},
-                    {label1, label2},
-                    units,
-                    raw.Log};
+  options.Import = {
+      raw.SurveyFile, {type == "transect", raw.SiteId, raw.SecondSignal}, {label1, label2}, units, raw.Log};
   if (raw.ConvertUnits) {
     options.ConvertUnits = ReadUnits("--convert-units", *raw.ConvertUnits);
     if (options.ConvertUnits == units) {
-      RefuseUsage("--convert-units: the signals of the file are in " + raw.Units + " already.");
+      RefuseUsage("--convert-units: the signals of the file are in " + *raw.ConvertUnits + " already.");
     }
   }
   for (const std::string& text : raw.Translations) {
@@ -297,6 +300,67 @@ RunOptions ApplyRules(const RawOptions& raw)
   return options;
 }
 
+/// The options as the most permitting sidecar would have them: what is wrong then is wrong in any case.
+RawOptions MostPermitted(RawOptions raw)
+{
+  raw.Type = raw.Type.value_or("transect");
+  raw.SecondSignal = true;
+  if (!raw.Units && raw.ConvertUnits) {
+    raw.Units = *raw.ConvertUnits == "dS/m" ? "mS/m" : "dS/m";
+  }
+  return raw;
+}
+
+void RequireAgreement(const std::string& option, bool agrees, const std::string& told)
+{
+  if (!agrees) {
+    RefuseUsage(option + ": the .survey.json beside the survey tells " + told +
+                "; --no-sidecar leaves it aside.");
+  }
+}
+
+/// Puts what a sidecar tells in the place of defaults. A label or unit that was told otherwise holds, with
+/// advice.
+void TakeSidecar(const SurveySidecar& sidecar, RawOptions& raw, std::vector<Advice>& advices)
+{
+  const std::string type = sidecar.Transect ? "transect" : "grid";
+  RequireAgreement("--type", !raw.Type || *raw.Type == type, "a " + type + " survey");
+  RequireAgreement("--site-id", !raw.SiteId, "that there is no site ID column");
+  RequireAgreement("--s2", !raw.SecondSignal || sidecar.SecondSignal, "that there is one signal");
+  raw.Type = type;
+  raw.SecondSignal = sidecar.SecondSignal;
+  const auto take = [&advices](const char* option, std::optional<std::string>& value,
+                               const std::string& told) {
+    if (value && *value != told) {
+      advices.push_back({"sidecar-differs", std::string(option) + " tells \"" + *value +
+                                                "\", the .survey.json beside the survey \"" + told + "\""});
+    }
+    value = value.value_or(told);
+  };
+  take("--label1", raw.Label1, sidecar.Labels[0]);
+  if (sidecar.SecondSignal) {
+    take("--label2", raw.Label2, sidecar.Labels[1]);
+  }
+  take("--units", raw.Units, sidecar.Units == "dS/m" ? "dS/m" : "mS/m");
+}
+
+/// The rules, with the sidecar beside the survey where there is one.
+RunOptions ApplyRulesWithSidecar(RawOptions raw)
+{
+  if (raw.NoSidecar || !HasSidecar(raw.SurveyFile)) {
+    return ApplyRules(raw);
+  }
+  ApplyRules(MostPermitted(raw));
+  SidecarReading found = ReadSidecarOf(raw.SurveyFile);
+  if (found.Sidecar) {
+    TakeSidecar(*found.Sidecar, raw, found.Advices);
+  }
+  RunOptions options = ApplyRules(raw);
+  options.Import.Content = std::move(found.Content);
+  options.Advices = std::move(found.Advices);
+  return options;
+}
+
 /// "--option=" has an empty value. The parser would take the argument behind it, so the value is written out.
 std::vector<std::string> WriteOutEmptyValues(const CLI::App& run, const std::vector<std::string>& arguments)
 {
@@ -326,6 +390,7 @@ CommandLine ReadCommandLine(const std::vector<std::string>& arguments)
   CLI::App app("Designs soil sampling plans from a ground-conductivity survey.", "veln");
   app.set_version_flag("--version", std::string("veln ") + ProgramVersion);
   app.require_subcommand(1);
+  app.add_subcommand("convert", "Takes a logger's own file to a raw survey; see veln convert --help");
   CLI::App& run = *app.add_subcommand("run", "Takes a raw survey file to saved sample designs");
   AddSurveyOptions(run, raw);
   AddAnalysisOptions(run, raw);
@@ -342,7 +407,7 @@ CommandLine ReadCommandLine(const std::vector<std::string>& arguments)
   } catch (const CLI::ParseError& error) {
     throw Refusal(std::string(error.what()) + "\nSee veln run --help for the options.", RefusalKind::Usage);
   }
-  return {ApplyRules(raw), ""};
+  return {ApplyRulesWithSidecar(raw), ""};
 }
 
 }  // namespace veln

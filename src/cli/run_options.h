@@ -6,6 +6,7 @@
 #include "signal/decorrelation.h"
 #include "signal/edge_buffer.h"
 #include "survey/survey_import.h"
+#include "toolkit/advice.h"
 
 #include <array>
 #include <filesystem>
@@ -37,6 +38,7 @@ struct RunOptions {
   PictureSettings PictureStyle;
   bool Json = false;
   bool Quiet = false;
+  std::vector<Advice> Advices;  ///< on the sidecar beside the survey
 };
 
 /// A command line, read: a run, or a text to print (help, version).

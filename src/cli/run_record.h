@@ -3,6 +3,7 @@
 #include "design/design_run.h"
 #include "design/design_scoring.h"
 #include "signal/decorrelation.h"
+#include "toolkit/advice.h"
 
 #include <filesystem>
 #include <optional>
@@ -35,6 +36,7 @@ struct RunRecord {
   std::optional<std::vector<int>> ManualSites;  ///< site IDs in survey order
   std::vector<std::filesystem::path> Files;     ///< in the order written
   std::vector<std::string> Notes;
+  std::vector<Advice> Advices;
 };
 
 }  // namespace veln

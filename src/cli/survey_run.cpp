@@ -10,6 +10,7 @@
 #include "forms/reduction_form.h"
 #include "signal/validation.h"
 #include "survey/coordinate_translation.h"
+#include "survey/import_advice.h"
 #include "survey/row_table.h"
 #include "survey/signal_transform.h"
 #include "survey/statistics.h"
@@ -112,6 +113,16 @@ class SurveyRun {
       text += ", " + Counted(InitRows(state_.RowNumber).size(), "row");
     }
     progress_.Step("Import", text);
+    Tell(options_.Advices);
+    Tell(AdviseImport(state_));
+  }
+
+  void Tell(const std::vector<Advice>& advices)
+  {
+    for (const Advice& advice : advices) {
+      progress_.Step("Advice", advice.Text);
+      record_.Advices.push_back(advice);
+    }
   }
 
   void Prepare()

@@ -184,7 +184,7 @@ std::optional<ClockTime> ParseClock(std::string_view text, ClockStyle style)
 {
   constexpr double MillisecondsPerSecond = 1000;
   switch (style) {
-    case ClockStyle::Clock:
+    case ClockStyle::TimeOfDay:
       return ReadClock(text);
     case ClockStyle::PackedClock:
       return UnpackClock(text);

@@ -13,7 +13,7 @@ enum class DateOrder { DayFirst, MonthFirst, YearFirst };
 /// How a column tells the time.
 enum class ClockStyle {
   None,
-  Clock,         ///< 10:44:01.48, with or without a date before it
+  TimeOfDay,     ///< 10:44:01.48, with or without a date before it
   PackedClock,   ///< 104401.48
   Seconds,       ///< a count of seconds
   Milliseconds,  ///< a count of milliseconds

@@ -186,7 +186,7 @@ void CoilRecords::TakeHeader(std::string_view record)
     date_ = content.substr(0, std::min(content.find(' '), DateWidth));
   } else if (record[0] == '*') {
     const std::size_t blank = std::min(content.find(' '), content.size());
-    const auto clock = ParseClock(content.substr(0, blank), ClockStyle::Clock);
+    const auto clock = ParseClock(content.substr(0, blank), ClockStyle::TimeOfDay);
     const auto stamp = ParseNumber(TrimField(content.substr(blank)));
     if (clock && stamp && !clockOffset_) {
       clockOffset_ = clock->Seconds - *stamp / MillisecondsPerSecond;

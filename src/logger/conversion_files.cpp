@@ -45,7 +45,7 @@ std::string TimeText(const FileAccount& file, double time)
     return DateText(static_cast<int>(day)) + "T" + ClockText(time - day * SecondsPerDay);
   }
   const ClockStyle style = file.Form.Roles.Clock;
-  const bool daily = file.Form.Records || style == ClockStyle::Clock || style == ClockStyle::PackedClock;
+  const bool daily = file.Form.Records || style == ClockStyle::TimeOfDay || style == ClockStyle::PackedClock;
   return daily ? ClockText(time) : ShortestForm(time);
 }
 

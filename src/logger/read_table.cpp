@@ -41,7 +41,7 @@ class ClockReader {
       }
       return static_cast<double>(account_.Dates.size() - 1) * SecondsPerDateIndex + clock->Seconds;
     }
-    const bool daily = style_ == ClockStyle::Clock || style_ == ClockStyle::PackedClock;
+    const bool daily = style_ == ClockStyle::TimeOfDay || style_ == ClockStyle::PackedClock;
     if (daily && clock->Seconds < lastSeconds_ - SecondsPerDay / 2) {
       midnights_ += SecondsPerDay;
     }

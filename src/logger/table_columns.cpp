@@ -239,8 +239,8 @@ ClockStyle StyleOf(const TableColumn& column)
     return MostOf(column.Sample,
                   [style](const std::string& text) { return ParseClock(text, style).has_value(); });
   };
-  if (reads(ClockStyle::Clock)) {
-    return ClockStyle::Clock;
+  if (reads(ClockStyle::TimeOfDay)) {
+    return ClockStyle::TimeOfDay;
   }
   const bool sixDigits = MostOf(
       column.Sample, [](const std::string& text) { return std::min(text.find('.'), text.size()) == 6; });
@@ -401,14 +401,14 @@ class RoleChooser {
         for (const std::size_t i : named) {
           const ClockStyle style = StyleOf(columns_[i]);
           const bool better =
-              !roles_.Time || (style == ClockStyle::Clock && StyleOf(columns_[*roles_.Time]) != style);
+              !roles_.Time || (style == ClockStyle::TimeOfDay && StyleOf(columns_[*roles_.Time]) != style);
           roles_.Time = style != ClockStyle::None && better ? i : roles_.Time;
         }
       }
     }
     if (!roles_.Time) {
       auto clocks = ColumnsThat(
-          columns_, [](const TableColumn& column) { return StyleOf(column) == ClockStyle::Clock; });
+          columns_, [](const TableColumn& column) { return StyleOf(column) == ClockStyle::TimeOfDay; });
       std::erase_if(clocks, [this](std::size_t i) { return i == roles_.First || i == roles_.Second; });
       roles_.Time = clocks.empty() ? std::nullopt : std::optional(clocks.front());
     }
@@ -419,7 +419,7 @@ class RoleChooser {
     const bool dated = roles_.Date && MostOf(columns_[*roles_.Date].Sample, [](const std::string& text) {
                          return ParseDate(text).has_value();
                        });
-    const bool daily = roles_.Clock == ClockStyle::Clock || roles_.Clock == ClockStyle::PackedClock;
+    const bool daily = roles_.Clock == ClockStyle::TimeOfDay || roles_.Clock == ClockStyle::PackedClock;
     roles_.Date = dated && daily && roles_.Date != roles_.Time ? roles_.Date : std::nullopt;
   }
 

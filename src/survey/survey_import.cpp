@@ -1,5 +1,6 @@
 #include "survey/survey_import.h"
 
+#include "survey/import_fault.h"
 #include "survey/raw_items.h"
 #include "survey/statistics.h"
 #include "toolkit/file_store.h"
@@ -31,6 +32,17 @@ std::string ReadRawFile(const std::string& fileName)
     return lines.Count() <= MostSites;
   });
   return content;
+}
+
+/// The records of the file; a refusal tells where the fault lies.
+RawSurvey LoadRecords(const ImportRequest& request, const ImportProgress& progress)
+{
+  const std::string content = request.Content ? *request.Content : ReadRawFile(request.FileName);
+  try {
+    return DataLoad(content, request.Layout, request.Log, progress);
+  } catch (const Refusal& refusal) {
+    throw Refusal(refusal.Message(), refusal.Kind(), ImportFault(content, request.Layout, request.Log));
+  }
 }
 
 /// The statistics panel of a survey must be complete: refuses signals for which it can't be.
@@ -70,7 +82,7 @@ void ImportSurvey(SurveyState& state, const ImportRequest& request, const Import
   if (!std::filesystem::exists(request.FileName, failure)) {
     throw Refusal("Error! File not found! Please re-enter filename information...");
   }
-  RawSurvey survey = DataLoad(ReadRawFile(request.FileName), request.Layout, request.Log, progress);
+  RawSurvey survey = LoadRecords(request, progress);
   TestSignals(survey, request);
 
   state.SurveySize = static_cast<int>(survey.SiteId.size());

@@ -4,6 +4,7 @@
 #include "workspace/survey_state.h"
 
 #include <array>
+#include <optional>
 #include <string>
 
 namespace veln {
@@ -14,7 +15,8 @@ struct ImportRequest {
   RecordLayout Layout;
   std::array<std::string, 2> Labels;
   ConductivityUnits Units = ConductivityUnits::MilliSiemens;
-  bool Log = false;  ///< natural log transform
+  bool Log = false;                                   ///< natural log transform
+  std::optional<std::string> Content = std::nullopt;  ///< the file's, where it was read already
 };
 
 /// Whether a character can not stand in a signal's label: a control character, or the double quote, which

@@ -15,12 +15,12 @@ TEST(ClockText, ReadsTimesOfEveryStyle)
     ClockStyle Style;
     double Seconds;
   };
-  for (const Case& one : std::vector<Case>{{"10:44:01.5", ClockStyle::Clock, 38641.5},
-                                           {"8:04", ClockStyle::Clock, 29040},
-                                           {"12:05:00 AM", ClockStyle::Clock, 300},
-                                           {"1:05:00 pm", ClockStyle::Clock, 47100},
-                                           {"2024-03-05T00:01:00Z", ClockStyle::Clock, 60},
-                                           {"5/03/2024 23:59:59", ClockStyle::Clock, 86399},
+  for (const Case& one : std::vector<Case>{{"10:44:01.5", ClockStyle::TimeOfDay, 38641.5},
+                                           {"8:04", ClockStyle::TimeOfDay, 29040},
+                                           {"12:05:00 AM", ClockStyle::TimeOfDay, 300},
+                                           {"1:05:00 pm", ClockStyle::TimeOfDay, 47100},
+                                           {"2024-03-05T00:01:00Z", ClockStyle::TimeOfDay, 60},
+                                           {"5/03/2024 23:59:59", ClockStyle::TimeOfDay, 86399},
                                            {"104401.5", ClockStyle::PackedClock, 38641.5},
                                            {"000007", ClockStyle::PackedClock, 7},
                                            {"12.5", ClockStyle::Seconds, 12.5},
@@ -30,7 +30,7 @@ TEST(ClockText, ReadsTimesOfEveryStyle)
     EXPECT_DOUBLE_EQ(time->Seconds, one.Seconds) << one.Text;
   }
   for (const char* text : {"", "10", "10:60:00", "25:00:00", "10:44:01x", "a:b:c", "-1:00:00", "10:"}) {
-    EXPECT_FALSE(ParseClock(text, ClockStyle::Clock)) << text;
+    EXPECT_FALSE(ParseClock(text, ClockStyle::TimeOfDay)) << text;
   }
   EXPECT_FALSE(ParseClock("246000", ClockStyle::PackedClock));
 }
