@@ -19,6 +19,7 @@ std::vector<std::filesystem::path> FieldFiles(const RunOptions& options)
     suffixes.insert(suffixes.end(), {"rsd" + digit + ".txt", "gps" + digit + ".txt", "xrs" + digit + ".asc"});
   }
   std::vector<std::filesystem::path> files;
+  files.reserve(suffixes.size());
   const auto folder = PlaceOfField(options.Root, options.Project, options.Field).Folder;
   for (const std::string& suffix : suffixes) {
     files.push_back(folder / (options.Field + suffix));
