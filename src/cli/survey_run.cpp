@@ -110,7 +110,7 @@ class SurveyRun {
     std::string text = Counted(state_.SurveySize, "site") + ", " + Counted(state_.SignalCount, "signal") +
                        " in " + UnitsText(state_.SignalUnits);
     if (IsTransect(state_)) {
-      text += ", " + Counted(InitRows(state_.RowNumber).size(), "row");
+      text += ", " + Counted(std::ssize(InitRows(state_.RowNumber)), "row");
     }
     progress_.Step("Import", text);
     Tell(options_.Advices);
@@ -138,7 +138,7 @@ class SurveyRun {
       TranslateCoordinates(state_, translation);
     }
     if (!options_.Translations.empty()) {
-      progress_.Step("Coordinates", Counted(options_.Translations.size(), "translation") + " applied");
+      progress_.Step("Coordinates", Counted(std::ssize(options_.Translations), "translation") + " applied");
     }
     const char* step = "Signals";
     for (const SignalFacts& signal : state_.Signals.Rows | std::views::take(state_.SignalCount)) {
@@ -180,7 +180,7 @@ class SurveyRun {
     record_.EdgeMasked = acceptance.EdgeMasked;
     record_.HighScores = acceptance.HighScores;
     record_.Files = acceptance.Files;
-    const auto& [edgeBuffering, transitionAnalysis] = *state_.Algorithms;
+    const auto [edgeBuffering, transitionAnalysis] = state_.Algorithms.value_or(AlgorithmFacts{});
     progress_.Step("Acceptance", std::string("edge buffering ") + AlgorithmText(edgeBuffering) +
                                      ", transition analysis " + AlgorithmText(transitionAnalysis));
   }
@@ -198,7 +198,7 @@ class SurveyRun {
       siteIds.push_back(state_.SiteId[i]);
     }
     record_.Files.push_back(SaveUDSamInfo(state_, dialogs_, SystemDateTime));
-    progress_.Step("Manual design", Counted(siteIds.size(), "site"));
+    progress_.Step("Manual design", Counted(std::ssize(siteIds), "site"));
     record_.ManualSites = std::move(siteIds);
   }
 
@@ -259,7 +259,7 @@ class SurveyRun {
     record_.Selection = scores;
     const SelectionSummary summary = SummariseScores(*scores);
     progress_.Step("Selection",
-                   Counted(CombinationsOf(*scores).size(), "design") + " scored by Opt-Criteria");
+                   Counted(std::ssize(CombinationsOf(*scores)), "design") + " scored by Opt-Criteria");
     progress_.ScoreTable(*scores);
     if (summary.Best) {
       progress_.Step("", BestDesignText(summary));
@@ -347,7 +347,7 @@ class SurveyRun {
     for (const ComposedFile& file : files) {
       record_.Files.push_back(file.Path);
     }
-    progress_.Step("Pictures", Counted(files.size(), "picture") + " drawn");
+    progress_.Step("Pictures", Counted(std::ssize(files), "picture") + " drawn");
   }
 
   const RunOptions& options_;
