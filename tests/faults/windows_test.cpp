@@ -85,7 +85,7 @@ TEST_F(FaultyWindows, TellAnExportThatFailed)
   const std::vector<std::string> names = {"ab12data.svy"};
   Accept(5, 100);
   Shared.State.DesignCount = 1;
-  const auto exportData = [] { ASSERT_TRUE(QTest::qWaitFor([] { return Shown("frmOutFD", "Frame1"); })); };
+  const auto exportData = [] { HandTimers::Tick(*Window("frmOutFD"), 2); };
   Shared.Show<frmOutFD>();
   const long operations = WithFault(0, exportData);
   for (const long at : FaultSteps(operations, 3)) {
