@@ -1,5 +1,6 @@
 #include "cli/run_json.h"
 
+#include "cli/quality_json.h"
 #include "toolkit/dialogs.h"
 #include "workspace/captions.h"
 #include "workspace/version.h"
@@ -106,7 +107,7 @@ Json PointListOf(const Design& design)
   return points;
 }
 
-Json DesignsOf(const RunRecord& record)
+Json DesignsOf(const RunRecord& record, const SurveyState& state)
 {
   Json list = Json::array();
   for (const SavedDesign& saved : record.Designs) {
@@ -120,7 +121,8 @@ Json DesignsOf(const RunRecord& record)
                     {"support", settings.IncludeSupportSites},
                     {"opt_criteria", Number(saved.Made.OptCriteria)},
                     {"loop_count", saved.Made.LoopCount},
-                    {"points", PointListOf(saved.Made)}});
+                    {"points", PointListOf(saved.Made)},
+                    {"quality", QualityJson(saved.Quality, state)}});
   }
   return list;
 }
@@ -170,7 +172,7 @@ std::string ComposeRunJson(const RunOptions& options, const RunRecord& record, c
       {"transition", OrNull(record.HighScores, counted("high"))},
       {"reduction", ReductionOf(options, record)},
       {"ads", OrNull(record.Selection, SelectionOf)},
-      {"designs", DesignsOf(record)},
+      {"designs", DesignsOf(record, state)},
       {"manual", OrNull(record.ManualSites, [](const auto& sites) { return Json{{"sites", sites}}; })},
       {"files", FilesOf(record)},
       {"notes", record.Notes},

@@ -2,6 +2,7 @@
 
 #include "design/design_run.h"
 #include "design/design_scoring.h"
+#include "quality/plan_quality.h"
 #include "signal/decorrelation.h"
 #include "toolkit/advice.h"
 
@@ -18,10 +19,18 @@ struct DecorrelationRound {
   DecorrelationCounts Counts;
 };
 
+/// How good a design is.
+struct DesignQuality {
+  std::vector<std::size_t> Sites;  ///< of the plan, by place in the survey
+  PlanFigures Figures;
+  PlanStanding Standing;
+};
+
 /// One design that was saved.
 struct SavedDesign {
   int Number = 0;
   Design Made;
+  std::optional<DesignQuality> Quality;  ///< where the document of the run tells it
 };
 
 /// What a run did, step by step; a step that did not run is empty.

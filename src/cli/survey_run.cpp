@@ -8,6 +8,7 @@
 #include "design/manual_design.h"
 #include "forms/auto_selection.h"
 #include "forms/reduction_form.h"
+#include "quality/design_facts.h"
 #include "signal/validation.h"
 #include "survey/coordinate_translation.h"
 #include "survey/import_advice.h"
@@ -302,11 +303,23 @@ class SurveyRun {
     if (!made) {
       return;  // a run that did not finish has thrown
     }
-    SavedDesign saved{state_.DesignCount + 1, *made};
+    SavedDesign saved{state_.DesignCount + 1, *made, Judge(*made)};
     const auto files = SaveDesign(form, state_, dialogs_, SystemDateTime);
     record_.Files.insert(record_.Files.end(), files.begin(), files.end());
     ShowDesign(saved);
     record_.Designs.push_back(std::move(saved));
+  }
+
+  /// The quality of a design that is not saved yet, whose candidates still count as free.
+  [[nodiscard]] std::optional<DesignQuality> Judge(const Design& design) const
+  {
+    if (!options_.Json) {
+      return std::nullopt;
+    }
+    const SurveyFacts facts = FactsOf(state_);
+    const Plan plan = PlanOf(state_, design);
+    const PlanFigures figures = MeasurePlan(facts, plan);
+    return DesignQuality{plan.Places(), figures, RankPlan(facts, plan, figures)};
   }
 
   void ShowDesign(const SavedDesign& saved)

@@ -7,10 +7,10 @@ namespace veln {
 
 namespace {
 
-/// Free, held by the run in work, or picked in the selection in work.
+/// Free, or held by the run in work.
 bool WasFree(std::int16_t status)
 {
-  return status == site_status::Free || status == site_status::Candidate || status == site_status::Selected;
+  return status == site_status::Free || status == site_status::Candidate;
 }
 
 }  // namespace
@@ -55,15 +55,6 @@ Plan PlanOf(const SurveyState& state, const Design& design)
   }
   plan.Chosen.assign(plan.Candidates.size(), 0);
   plan.TargetSeparation = TargetSepDist(state, TargetPoints(design.Settings.Size));
-  return plan;
-}
-
-Plan PlanOfSites(const std::vector<std::size_t>& sites)
-{
-  Plan plan;
-  for (const std::size_t site : sites) {
-    plan.Sites.push_back({site, 0, std::nullopt});
-  }
   return plan;
 }
 

@@ -2,6 +2,8 @@
 
 #include <nlohmann/json.hpp>
 
+#include <cmath>
+
 namespace veln {
 namespace {
 
@@ -70,6 +72,22 @@ TEST(ProgressText, OfARefusedImportLeavesNoCounterOnTheTerminal)
               HasSubstr("Importing Line # 200\r" + std::string(20, ' ') + "\rError!  Non-numeric"));
 }
 
+/// Every value of a document that is told stands in the other one, numbers to 1E-12.
+void ExpectNear(const Json& found, const Json& told, const std::string& place)
+{
+  if (told.is_number()) {
+    ASSERT_TRUE(found.is_number()) << place;
+    EXPECT_NEAR(found.get<double>(), told.get<double>(), 1E-12 * (1 + std::abs(told.get<double>()))) << place;
+  } else if (told.is_structured()) {
+    for (const auto& [key, value] : told.items()) {
+      const Json& beside = told.is_array() ? found.at(std::stoul(key)) : found.at(key);
+      ExpectNear(beside, value, place + "." + key);
+    }
+  } else {
+    EXPECT_EQ(found, told) << place;
+  }
+}
+
 /// The survey is of 52 sites whose standardised signal is told outright: the squares of z sum to
 /// 3 * (2 * 2.5^2 + 2 * 1.5^2) = 51, which is n - 1, so that 40 + 8 z has mean 40 and deviation 8 without
 /// rounding.
@@ -80,6 +98,9 @@ TEST(ProgressText, OfARefusedImportLeavesNoCounterOnTheTerminal)
 /// field is a square of 100, so Opt-Criteria is 100 / (sqrt(5) - 0.5) / (50 sqrt(2)) = 0.81461. Of the sites
 /// with |z| below 1, 1017 at (50,0) and 1018 at (100,50) are both 50 away from the design: the first is
 /// taken. At D-factors 0.9 and 1.1 the nearest three sites of each level are the same.
+///
+/// Its quality: the line's X'X is diagonal with 6 and 2 x 6.25 + 2 x 2.25 = 17. The 50 sites that are free
+/// when the design is made have the sum of squares 51. The hull is the square of 100.
 TEST(RunDocument, HoldsWhatIsWorkedOutByHandInItsOrderAndTypes)
 {
   VelnSession session;
@@ -87,9 +108,15 @@ TEST(RunDocument, HoldsWhatIsWorkedOutByHandInItsOrderAndTypes)
       session.Run(Data("worked_survey.txt"), {"--json", "--site-id", "--masking-level", "3.25", "--manual",
                                               "1052,1019,1052", "--ads", "limited", "--design", "6"});
   EXPECT_EQ(result.Status, 0) << result.Err;
+  Json document = Json::parse(SteadyText(result.Out, session.Root()));
+  const Json quality = document["designs"][0]["quality"];
+  document["designs"][0].erase("quality");
   // Compared as text: 40 and 40.0, equal as numbers, are of two types.
-  EXPECT_EQ(Json::parse(SteadyText(result.Out, session.Root())).dump(1),
-            Json::parse(Data("worked_run.json")).dump(1));
+  EXPECT_EQ(document.dump(1), Json::parse(Data("worked_run.json")).dump(1));
+  ExpectNear(quality, Json::parse(Data("worked_quality.json")), "quality");
+  EXPECT_EQ(quality["chance"]["plans"], 1000);
+  EXPECT_LE(quality["chance"]["both"], 1000);
+  EXPECT_GE(quality["equivalent_random_sites"], 6);
 }
 
 TEST(Output, OfAQuietRunIsItsDocumentAlone)
@@ -97,7 +124,8 @@ TEST(Output, OfAQuietRunIsItsDocumentAlone)
   VelnSession session;
   const ProcessResult document = session.Run(GridText(60), {"--json"});
   EXPECT_EQ(session.Run(GridText(60), {"--quiet", "--json", "--overwrite"}).Out, document.Out);
-  EXPECT_THAT(document.Out, AllOf(StartsWith("{\n  \"program\": \"VELN-QTRD\",\n"), EndsWith("}\n")));
+  EXPECT_THAT(document.Out,
+              AllOf(StartsWith("{\n  \"schema\": 1,\n  \"program\": \"VELN-QTRD\",\n"), EndsWith("}\n")));
 }
 
 TEST(Output, ThatCanNotBeWrittenEndsWithOne)
