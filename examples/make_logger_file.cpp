@@ -37,7 +37,7 @@ class Walk {
     const bool fence = x > RowMetres - 1.2 && y > RowSpacing * 5;
     std::array<double, 3> cond{};
     for (std::size_t coil = 0; coil < cond.size(); ++coil) {
-      const double depth = static_cast<double>(coil);
+      const auto depth = static_cast<double>(coil);
       cond.at(coil) = soil * (0.7 + 0.35 * depth) + 0.4 * random_.Normal() - (fence ? 30 + 8 * depth : 0);
     }
     AddLine(cond);

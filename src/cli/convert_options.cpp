@@ -137,7 +137,7 @@ void ReadOutputs(const RawOptions& raw, ConvertOptions& options)
   }
   if (raw.SaveProfile && !IsProfileName(*raw.SaveProfile)) {
     RefuseUsage("--save-profile: \"" + *raw.SaveProfile +
-                "\" is no name of letters, digits, \"_\", \"-\" and \".\".");
+                R"(" is no name of letters, digits, "_", "-" and ".".)");
   }
   options.SaveProfile = raw.SaveProfile;
   if (!raw.Show) {
@@ -194,9 +194,9 @@ void ReadConversion(const RawOptions& raw, ConversionOptions& options)
     GiveWay(raw, options);
   }
   for (std::size_t i = 0; i < raw.Values.size(); ++i) {
-    if (raw.Values[i]) {
-      RequirePath(std::string("--") + OptionRules()[i].Name, *raw.Values[i]);
-      ReadOption(options, OptionRules()[i].Name, *raw.Values[i]);
+    if (const auto& value = raw.Values[i]) {
+      RequirePath(std::string("--") + OptionRules()[i].Name, *value);
+      ReadOption(options, OptionRules()[i].Name, *value);
     }
   }
   options.Boundaries.assign(raw.Boundaries.begin(), raw.Boundaries.end());
