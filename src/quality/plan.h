@@ -46,6 +46,7 @@ struct Plan {
   [[nodiscard]] std::vector<std::size_t> Places() const
   {
     std::vector<std::size_t> places;
+    places.reserve(Sites.size());
     for (const PlanSite& site : Sites) {
       places.push_back(site.Site);
     }
