@@ -262,6 +262,7 @@ void ReadDesigns(const RawOptions& raw, RunOptions& options)
   }
   if (raw.Reduction) {
     std::vector<std::string> shares;
+    shares.reserve(ReductionSteps.size());
     for (const ReductionStep& step : ReductionSteps) {
       shares.push_back(GeneralForm(step.Percent));
     }

@@ -160,6 +160,7 @@ class SpreadTree {
 
   /// Searches below a node. Gives the greatest bound of what the limit left unseen; -infinity when all was
   /// seen.
+  // NOLINTNEXTLINE(misc-no-recursion): as deep as there are points
   double Visit(const Caps& caps)
   {
     if (std::ranges::find(fixed_, Open) == fixed_.end()) {
@@ -246,6 +247,7 @@ class DistanceTree {
     return next;
   }
 
+  // NOLINTNEXTLINE(misc-no-recursion): as deep as there are points
   bool Visit(const std::vector<bool>& left, std::size_t fixedPoints)
   {
     if (fixedPoints == problem_.PointCount()) {

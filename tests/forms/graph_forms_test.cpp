@@ -10,7 +10,7 @@ using enum GraphEntry;
 
 TEST(GraphicsInitialisation, AppliesAllChoicesOnceTheRowsHaveADirection)
 {
-  SurveyState state = ImportedSurvey(TransectSurvey(3, 5));
+  SurveyState state = ImportedSurvey(TransectSurvey(3, 20));
   SurveyGraph graph = LoadSurveyGraph(state);
   ScriptedDialogs dialogs;
   IgcForm form = LoadIgcForm(graph, state);

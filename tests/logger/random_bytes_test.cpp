@@ -12,7 +12,8 @@ namespace {
 /// Changes, takes out, doubles or cuts bytes of a text.
 std::string Spoilt(std::string text, SteadyRandom& random)
 {
-  constexpr std::string_view Bytes = "\0\r\n\t,;\" -.0159NSEW#\xF6\xFF";
+  using std::string_view_literals::operator""sv;
+  constexpr std::string_view Bytes = "\0\r\n\t,;\" -.0159NSEW#\xF6\xFF"sv;
   const auto at = [&] { return static_cast<std::size_t>(random.Next() * static_cast<double>(text.size())); };
   const int changes = 1 + static_cast<int>(random.Next() * 40);
   for (int i = 0; i < changes && !text.empty(); ++i) {
