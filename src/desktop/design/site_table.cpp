@@ -52,6 +52,7 @@ SiteTable::SiteTable(QWidget* parent, const QString& accessibleName, const Surve
 void SiteTable::ShowSites(const TextTable& sites)
 {
   std::vector<int> widths;  // the window keeps its shape
+  widths.reserve(static_cast<std::size_t>(columnCount()));
   for (int column = 0; column < columnCount(); ++column) {
     widths.push_back(columnWidth(column));
   }
