@@ -24,20 +24,22 @@ void EndWithoutDisplay(QtMsgType type, const QMessageLogContext& /*place*/, cons
 /// Installs the handler above while the application starts.
 class DisplayWatch {
  public:
-  DisplayWatch() : before_(qInstallMessageHandler(EndWithoutDisplay)) {}
+  explicit DisplayWatch(int& argc) : argc_(argc), before_(qInstallMessageHandler(EndWithoutDisplay)) {}
   DisplayWatch(const DisplayWatch&) = delete;
   DisplayWatch& operator=(const DisplayWatch&) = delete;
   ~DisplayWatch() { qInstallMessageHandler(before_); }
 
-  int& Watch(int& argc) { return argc; }
+  /// What the application takes of the command line.
+  [[nodiscard]] int& ArgumentCount() const { return argc_; }
 
  private:
+  int& argc_;
   QtMessageHandler before_;
 };
 
 }  // namespace
 
-Application::Application(int& argc, char** argv) : QApplication(DisplayWatch().Watch(argc), argv) {}
+Application::Application(int& argc, char** argv) : QApplication(DisplayWatch(argc).ArgumentCount(), argv) {}
 
 bool Application::notify(QObject* receiver, QEvent* event)
 {

@@ -35,15 +35,15 @@ QGroupBox* frmBasicStats::MakeTransformOptions()
     ShowText(*edit, form_.Labels.at(signal));
     return edit;
   };
-  QLineEdit* label1 = makeLabel("Text1", 0, " enter a new s1 label, if necessary ");
-  QLineEdit* label2 = makeLabel("Text2", 1, " enter a new s2 label, if necessary");
-  QLabel* caption2 = MakeFieldLabel(this, "Label2", "New s&2 label:", label2);
+  QLineEdit* edit1 = makeLabel("Text1", 0, " enter a new s1 label, if necessary ");
+  QLineEdit* edit2 = makeLabel("Text2", 1, " enter a new s2 label, if necessary");
+  QLabel* caption2 = MakeFieldLabel(this, "Label2", "New s&2 label:", edit2);
   auto* labels = new QFormLayout;
-  labels->addRow(MakeFieldLabel(this, "Label1", "New s&1 label:", label1), label1);
-  labels->addRow(caption2, label2);
+  labels->addRow(MakeFieldLabel(this, "Label1", "New s&1 label:", edit1), edit1);
+  labels->addRow(caption2, edit2);
   QGroupBox* frame =
       Frame(this, "Frame1", "Signal Transformation Options", Column({checks_[0], checks_[1], labels}));
-  SetShown({caption2, label2}, form_.Text2Visible);
+  SetShown({caption2, edit2}, form_.Text2Visible);
   return frame;
 }
 

@@ -36,9 +36,8 @@ QString Shortened(const QString& text)
   return text.size() <= Enough ? text : text.left(Enough) + QChar(0x2026);
 }
 
-QString MarkFault(QTableWidget& table, const RecordPreview& preview)
+QString MarkFault(QTableWidget& table, const RecordPreview& preview, const RecordPreview::Fault& fault)
 {
-  const RecordPreview::Fault& fault = *preview.FirstFault;
   QTableWidgetItem* item = table.item(static_cast<int>(fault.Record), static_cast<int>(fault.Item));
   const QString reason = "Record " + QString::number(fault.Record + 1) + ", " +
                          ToQt(preview.Headings[fault.Item]) + ": \"" +
@@ -85,8 +84,8 @@ QString FillPreviewTable(QTableWidget& table, const ImportRequest& request)
   try {
     const RecordPreview preview = PreviewFile(request.FileName, request.Layout, request.Log);
     FillTable(table, preview);
-    if (preview.FirstFault) {
-      return MarkFault(table, preview);
+    if (const auto& fault = preview.FirstFault) {
+      return MarkFault(table, preview, *fault);
     }
     return preview.Records.empty() ? "The file is empty." : "The first records, as they would be read.";
   } catch (const Refusal& refusal) {
