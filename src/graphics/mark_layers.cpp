@@ -70,17 +70,22 @@ class LevelGrid {
     }
     const bool level = from.Y == to.Y;
     const double slope = level ? 0 : static_cast<double>(to.X - from.X) / (to.Y - from.Y);
-    const double lastRow = std::clamp(std::floor((to.Y + reach) / Cell), 0.0, lastRow_);
-    for (double row = std::clamp(std::floor((from.Y - reach) / Cell), 0.0, lastRow_); row <= lastRow; ++row) {
+    const std::size_t lastRow = RowAt(to.Y + reach);
+    for (std::size_t row = RowAt(from.Y - reach); row <= lastRow; ++row) {
       // The part of the line within reach of this row of cells.
-      const double top = std::clamp<double>(row * Cell - reach, from.Y, to.Y);
-      const double bottom = std::clamp<double>((row + 1) * Cell + reach, from.Y, to.Y);
+      const double top = std::clamp<double>(static_cast<double>(row) * Cell - reach, from.Y, to.Y);
+      const double bottom = std::clamp<double>(static_cast<double>(row + 1) * Cell + reach, from.Y, to.Y);
       const double x1 = level ? from.X : from.X + (top - from.Y) * slope;
       const double x2 = level ? to.X : from.X + (bottom - from.Y) * slope;
-      const auto run = cells_.begin() + static_cast<std::ptrdiff_t>(static_cast<std::size_t>(row) * columns_);
+      const auto run = cells_.begin() + static_cast<std::ptrdiff_t>(row * columns_);
       runs_.emplace_back(run + ColumnAt(std::min(x1, x2) - reach),
                          run + ColumnAt(std::max(x1, x2) + reach) + 1);
     }
+  }
+
+  [[nodiscard]] std::size_t RowAt(double y) const
+  {
+    return static_cast<std::size_t>(std::clamp(std::floor(y / Cell), 0.0, lastRow_));
   }
 
   [[nodiscard]] std::ptrdiff_t ColumnAt(double x) const
