@@ -27,6 +27,7 @@ class GeoJsonReader {
  public:
   explicit GeoJsonReader(const std::string& name) : name_(name) {}
 
+  // NOLINTNEXTLINE(misc-no-recursion): no deeper than told below
   void Read(const Json& item, int depth = 0)
   {
     constexpr int DeepestNesting = 16;
@@ -60,6 +61,7 @@ class GeoJsonReader {
     return item[key];
   }
 
+  // NOLINTNEXTLINE(misc-no-recursion)
   void ReadEach(const Json& item, const char* key, int depth)
   {
     for (const Json& part : Member(item, key)) {

@@ -83,7 +83,10 @@ std::optional<DateParts> TakeDate(std::string_view& text)
       return std::nullopt;
     }
     const auto month = i == 1 ? TakeMonthName(text) : std::nullopt;
-    const auto number = month ? month : (text.empty() ? std::nullopt : TakeWhole(text));
+    auto number = month;
+    if (!month && !text.empty()) {
+      number = TakeWhole(text);
+    }
     if (!number) {
       return std::nullopt;
     }
@@ -116,8 +119,8 @@ std::optional<double> TakeClock(std::string_view& text)
     text.remove_prefix(static_cast<std::size_t>(end - text.data()));
   }
   text = TrimField(text);
+  const bool afternoon = !text.empty() && (text[0] == 'P' || text[0] == 'p');
   if (text.size() >= 2 && (text[1] == 'M' || text[1] == 'm') && TakeOneOf(text, "AaPp")) {
-    const bool afternoon = text.data()[-1] == 'P' || text.data()[-1] == 'p';
     hours = *hours % HoursPerHalfDay + (afternoon ? HoursPerHalfDay : 0);
     text.remove_prefix(1);
   }
@@ -130,7 +133,7 @@ std::optional<double> TakeClock(std::string_view& text)
 std::optional<ClockTime> ReadClock(std::string_view text)
 {
   ClockTime time;
-  if (text.find_first_of(":") > 2) {
+  if (text.find(':') > 2) {
     time.Date = TakeDate(text);
     if (!time.Date || !TakeOneOf(text, "T ,")) {
       return std::nullopt;
@@ -213,7 +216,8 @@ std::optional<int> DayNumber(const DateParts& date, DateOrder order)
     year += year < FirstTwoDigitYear ? Century21 : Century20;
   }
   const int month = order == DateOrder::MonthFirst ? a : b;
-  const int day = order == DateOrder::DayFirst ? a : order == DateOrder::MonthFirst ? b : c;
+  const int dayBehindMonth = order == DateOrder::MonthFirst ? b : c;
+  const int day = order == DateOrder::DayFirst ? a : dayBehindMonth;
   const std::chrono::year_month_day calendar(std::chrono::year(year),
                                              std::chrono::month(static_cast<unsigned>(std::max(month, 0))),
                                              std::chrono::day(static_cast<unsigned>(std::max(day, 0))));

@@ -78,8 +78,8 @@ class Converter {
     if (Options().LagSeconds != 0) {
       ShiftByLag(track_, Options().LagSeconds, result_.Source);
     }
-    if (Options().Offset) {
-      ShiftByOffset(track_, *Options().Offset);
+    if (const auto& offset = Options().Offset) {
+      ShiftByOffset(track_, *offset);
     }
     DropOutside(track_, result_.Boundary, result_.Exclusions, Options().InsetMetres);
     CountNonPositive(result_);
@@ -158,7 +158,10 @@ std::string KnownUnits(const std::string& text)
       letters += static_cast<char>(std::tolower(static_cast<unsigned char>(c)));
     }
   }
-  return letters == "msm" ? "mS/m" : letters == "dsm" ? "dS/m" : "";
+  if (letters == "msm") {
+    return "mS/m";
+  }
+  return letters == "dsm" ? "dS/m" : "";
 }
 
 Conversion Convert(Readings readings, const ConversionOptions& options, bool keepDropped)

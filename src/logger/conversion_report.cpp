@@ -35,7 +35,7 @@ std::string FileText(const FileAccount& file)
 {
   const FileForm& form = file.Form;
   const ColumnRoles& roles = form.Roles;
-  std::string text = ReportLine(
+  const std::string text = ReportLine(
       "File", file.Path.string() + ": " + (form.Records ? "records of 26 bytes" : DescribeForm(form.Text)));
   std::string columns = PositionText(form) + "; signals ";
   for (std::size_t i = 0; i < roles.SignalCount; ++i) {

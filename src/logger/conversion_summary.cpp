@@ -33,7 +33,8 @@ std::string FirstLines(const Conversion& conversion, const FateCountOf& fate)
   std::string text;
   for (const SourceLine& line : fate.First) {
     const auto& files = conversion.Source.Files;
-    text += text.empty() ? (fate.Count == 1 ? "line " : "lines ") : ", ";
+    const char* heading = fate.Count == 1 ? "line " : "lines ";
+    text += text.empty() ? heading : ", ";
     text += (files.size() > 1 ? files[line.File].Path.filename().string() + ":" : "") +
             GeneralForm(static_cast<double>(line.Line));
   }

@@ -68,6 +68,7 @@ std::vector<TableColumn> ReadColumns(std::string_view beginning, const TextForm&
   if (form.HeaderLine == 0) {
     fields.clear();
   }
+  columns.reserve(fields.size());
   for (std::size_t i = 0; i < fields.size(); ++i) {
     columns.push_back(ReadHeaderCell(FieldText(fields[i], form.Latin1), i));
   }

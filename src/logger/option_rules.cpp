@@ -120,18 +120,20 @@ bool ReadSkip(Options& o, const std::string& text)
 
 bool ReadRows(Options& o, const std::string& text)
 {
-  o.Rows.From = text == "auto" ? RowsFrom::Track : text == "none" ? RowsFrom::None : RowsFrom::Column;
-  if (o.Rows.From == RowsFrom::Column) {
-    return TakeColumn(o.Reading.Columns.Row, text);
+  if (text == "auto" || text == "none") {
+    o.Rows.From = text == "auto" ? RowsFrom::Track : RowsFrom::None;
+    return true;
   }
-  return true;
+  o.Rows.From = RowsFrom::Column;
+  return TakeColumn(o.Reading.Columns.Row, text);
 }
 
 Text WriteRows(const Options& o)
 {
-  return o.Rows.From == RowsFrom::Track  ? Text()
-         : o.Rows.From == RowsFrom::None ? Text("none")
-                                         : o.Reading.Columns.Row;
+  if (o.Rows.From == RowsFrom::Track) {
+    return {};
+  }
+  return o.Rows.From == RowsFrom::None ? Text("none") : o.Reading.Columns.Row;
 }
 
 bool ReadOffset(Options& o, const std::string& text)
@@ -309,14 +311,14 @@ std::vector<OptionRule> RowRules()
 
 const std::vector<OptionRule>& OptionRules()
 {
-  static const std::vector<OptionRule> rules = [] {
+  static const std::vector<OptionRule> Rules = [] {
     std::vector<OptionRule> all = FormRules();
     for (const auto& more : {ColumnRules(), CleaningRules(), RowRules()}) {
       all.insert(all.end(), more.begin(), more.end());
     }
     return all;
   }();
-  return rules;
+  return Rules;
 }
 
 void ReadOption(ConversionOptions& options, const std::string& name, const std::string& text)

@@ -46,7 +46,10 @@ Side SideOf(const PlanePoint& place, const Ring& ring)
       inside = !inside;
     }
   });
-  return edge ? Side::Edge : inside ? Side::Inside : Side::Outside;
+  if (edge) {
+    return Side::Edge;
+  }
+  return inside ? Side::Inside : Side::Outside;
 }
 
 }  // namespace

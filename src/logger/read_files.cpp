@@ -160,13 +160,13 @@ void ResolveDates(Readings& readings, DateOrder order)
 template <class Item>
 void Rearrange(std::vector<Item>& items, std::span<const std::size_t> order)
 {
-  auto begin = items.begin();
+  auto placed = items.begin();
   for (const std::size_t file : order) {
     const auto first =
-        std::find_if(begin, items.end(), [file](const Item& item) { return item.File == file; });
+        std::find_if(placed, items.end(), [file](const Item& item) { return item.File == file; });
     const auto last =
         std::find_if(first, items.end(), [file](const Item& item) { return item.File != file; });
-    begin = std::rotate(begin, first, last);
+    placed = std::rotate(placed, first, last);
   }
 }
 
@@ -246,10 +246,10 @@ Readings ReadLoggerFiles(const std::vector<std::filesystem::path>& paths, const 
     ReadOneFile(path, choices, readings, store);
   }
   if (store.Full()) {
+    const std::size_t every = (store.All() + MostReadings - 1) / MostReadings;
     throw Refusal("The files hold " + GroupedNumber(store.All()) + " readings; more than " +
                   GroupedNumber(MostReadings) + " are not kept at once. --every " +
-                  GeneralForm(static_cast<double>((store.All() + MostReadings - 1) / MostReadings)) +
-                  " takes as many as fit.");
+                  GeneralForm(static_cast<double>(every)) + " takes as many as fit.");
   }
   RequireSameKind(readings);
   readings.Geographic = readings.Files.front().Form.Roles.Geographic;

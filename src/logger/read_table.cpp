@@ -114,13 +114,12 @@ class TableReader {
     if (std::memchr(line.data(), 0, line.size()) != nullptr) {
       account_.NulBytes += static_cast<std::size_t>(std::ranges::count(line, '\0'));
     }
-    if (number == form_.HeaderLine) {
-      ++account_.Header;
-    } else if (IsBlankLine(line)) {
+    const bool heading = number == form_.HeaderLine;
+    if (!heading && IsBlankLine(line)) {
       ++account_.Blank;
-    } else if (IsComment(line, form_.Comments)) {
+    } else if (!heading && IsComment(line, form_.Comments)) {
       ++account_.Comments;
-    } else if (number < form_.FirstDataLine || (form_.HeaderLine > 0 && line == form_.Header)) {
+    } else if (heading || number < form_.FirstDataLine || (form_.HeaderLine > 0 && line == form_.Header)) {
       ++account_.Header;
     } else if (store_.Wants(account_)) {
       ReadReading(line, number);

@@ -15,6 +15,9 @@ std::optional<Certificate> Certify(const Plan& plan)
   const SpreadProblem problem(plan.Candidates);
   SearchLimit limit;
   const auto spread = FindBestSpread(problem, plan.Chosen, limit);
+  if (!spread) {
+    return std::nullopt;
+  }
   const double own = problem.LogSeparation(plan.Chosen);
   Certificate certificate;
   certificate.Combinations = problem.Combinations();

@@ -42,7 +42,7 @@ void MeasureTargets(const SurveyFacts& survey, const Plan& plan, PlanFigures& fi
     if (!site.Target) {
       continue;
     }
-    const double miss = TargetMiss(survey, site);
+    const double miss = TargetMiss(survey, site.Site, *site.Target);
     figures.Misses.back() = miss;
     ++targets.Targets;
     targets.Missed += miss > CountedMiss ? 1 : 0;
@@ -84,13 +84,13 @@ ChanceFigures CountChance(const std::vector<RandomPlanFigures>& plans, double dE
 
 }  // namespace
 
-double TargetMiss(const SurveyFacts& survey, const PlanSite& site)
+double TargetMiss(const SurveyFacts& survey, std::size_t site, const std::array<double, 2>& target)
 {
-  const double d1 = survey.Z1[site.Site] - site.Target->at(0);
+  const double d1 = survey.Z1[site] - target[0];
   if (!survey.TwoSignals()) {
     return std::abs(d1);
   }
-  const double d2 = survey.Z2[site.Site] - site.Target->at(1);
+  const double d2 = survey.Z2[site] - target[1];
   return std::sqrt(d1 * d1 + d2 * d2);
 }
 

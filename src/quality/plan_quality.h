@@ -67,8 +67,9 @@ struct PlanStanding {
   std::optional<Certificate> Proof;
 };
 
-/// The distance of a site from its target in signal space, in standard deviations; z1 alone with one signal.
-double TargetMiss(const SurveyFacts& survey, const PlanSite& site);
+/// The distance of a site, by its place in the survey, from a target in signal space, in standard deviations;
+/// that of z1 alone with one signal.
+double TargetMiss(const SurveyFacts& survey, std::size_t site, const std::array<double, 2>& target);
 
 PlanFigures MeasurePlan(const SurveyFacts& survey, const Plan& plan);
 

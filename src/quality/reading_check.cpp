@@ -14,12 +14,12 @@ constexpr std::size_t FewestNeighbours = 4;
 std::vector<std::size_t> Neighbours(const SurveyFacts& survey, std::size_t site)
 {
   std::vector<std::size_t> neighbours;
-  for (std::size_t i = site; i-- > 0 && site - i <= Reach && survey.Row[i] == survey.Row[site];) {
-    neighbours.push_back(i);
+  const auto inRow = [&](std::size_t i) { return survey.Row[i] == survey.Row[site]; };
+  for (std::size_t step = 1; step <= Reach && step <= site && inRow(site - step); ++step) {
+    neighbours.push_back(site - step);
   }
-  for (std::size_t i = site + 1;
-       i < survey.Row.size() && i - site <= Reach && survey.Row[i] == survey.Row[site]; ++i) {
-    neighbours.push_back(i);
+  for (std::size_t step = 1; step <= Reach && site + step < survey.Row.size() && inRow(site + step); ++step) {
+    neighbours.push_back(site + step);
   }
   return neighbours;
 }
@@ -35,6 +35,7 @@ double Difference(std::span<const double> signal, const std::vector<std::size_t>
                   std::size_t site, double deviation)
 {
   std::vector<double> values;
+  values.reserve(neighbours.size());
   for (const std::size_t i : neighbours) {
     values.push_back(signal[i]);
   }
