@@ -304,24 +304,36 @@ class RoleChooser {
     return text ? std::optional(FindColumn(columns_, *text, source + option, file_)) : std::nullopt;
   }
 
+  struct PositionColumns {
+    std::optional<std::size_t> Lat, Lon, X, Y;
+  };
+
+  /// The columns told, and beside them those that are known by their names or by the letters they hold.
+  [[nodiscard]] PositionColumns KnownBeside(PositionColumns found, bool geographic, bool plane) const
+  {
+    const auto fill = [](std::optional<std::size_t>& column, const std::optional<std::size_t>& known) {
+      column = column ? column : known;
+    };
+    if (geographic) {
+      fill(found.Lat, KnownColumn(columns_, LatitudeNames, "latitude"));
+      fill(found.Lon, KnownColumn(columns_, LongitudeNames, "longitude"));
+      fill(found.Lat, ColumnByLetters(columns_, "NS"));
+      fill(found.Lon, ColumnByLetters(columns_, "EW"));
+    }
+    if (plane) {
+      fill(found.X, KnownColumn(columns_, EastingNames, "easting"));
+      fill(found.Y, KnownColumn(columns_, NorthingNames, "northing"));
+    }
+    return found;
+  }
+
   void ChoosePosition()
   {
-    auto lat = Told(choices_.Lat, "--lat");
-    auto lon = Told(choices_.Lon, "--lon");
-    auto x = Told(choices_.X, "--x");
-    auto y = Told(choices_.Y, "--y");
-    const bool planeTold = x || y;
-    const bool geographicTold = lat || lon;
-    if (!planeTold) {
-      lat = lat ? lat : KnownColumn(columns_, LatitudeNames, "latitude");
-      lon = lon ? lon : KnownColumn(columns_, LongitudeNames, "longitude");
-      lat = lat ? lat : ColumnByLetters(columns_, "NS");
-      lon = lon ? lon : ColumnByLetters(columns_, "EW");
-    }
-    if (!geographicTold) {
-      x = x ? x : KnownColumn(columns_, EastingNames, "easting");
-      y = y ? y : KnownColumn(columns_, NorthingNames, "northing");
-    }
+    const PositionColumns told = {Told(choices_.Lat, "--lat"), Told(choices_.Lon, "--lon"),
+                                  Told(choices_.X, "--x"), Told(choices_.Y, "--y")};
+    const bool planeTold = told.X || told.Y;
+    const bool geographicTold = told.Lat || told.Lon;
+    const auto [lat, lon, x, y] = KnownBeside(told, !planeTold, !geographicTold);
     if (lat && lon) {
       TakeGeographic(*lat, *lon);
       if (x && y && !geographicTold) {
@@ -413,7 +425,8 @@ class RoleChooser {
       roles_.Time = clocks.empty() ? std::nullopt : std::optional(clocks.front());
     }
     roles_.Clock = roles_.Time ? StyleOf(columns_[*roles_.Time]) : ClockStyle::None;
-    if (choices_.Time && roles_.Clock == ClockStyle::None && !columns_[*roles_.Time].Sample.empty()) {
+    if (choices_.Time && roles_.Time && roles_.Clock == ClockStyle::None &&
+        !columns_[*roles_.Time].Sample.empty()) {
       throw Refusal(file_ + ": --time \"" + *choices_.Time + "\" is a column without times.");
     }
     const bool dated = roles_.Date && MostOf(columns_[*roles_.Date].Sample, [](const std::string& text) {

@@ -247,20 +247,41 @@ TextForm RecogniseTextForm(std::string_view beginning, const FormChoices& choice
   return form;
 }
 
+namespace {
+
+std::string DescribeSeparator(char separator)
+{
+  switch (separator) {
+    case '\t':
+      return "tab-separated";
+    case ';':
+      return "semicolon-separated";
+    case ',':
+      return "comma-separated";
+    default:
+      return "separated by blanks";
+  }
+}
+
+std::string DescribeLineEnds(const TextForm& form)
+{
+  if (form.CarriageReturns) {
+    return ", lines end in CR";
+  }
+  return form.CrLf ? ", lines end in CR LF" : ", lines end in LF";
+}
+
+}  // namespace
+
 std::string DescribeForm(const TextForm& form)
 {
-  const std::string separator = form.Separator == '\t'  ? "tab-separated"
-                                : form.Separator == ';' ? "semicolon-separated"
-                                : form.Separator == ',' ? "comma-separated"
-                                                        : "separated by blanks";
   const std::string header = form.HeaderLine == 0
                                  ? "no header"
                                  : "header in line " + GeneralForm(static_cast<double>(form.HeaderLine));
-  return separator + ", " + header + (form.DecimalComma ? ", decimal comma" : ", decimal point") +
+  return DescribeSeparator(form.Separator) + ", " + header +
+         (form.DecimalComma ? ", decimal comma" : ", decimal point") +
          (form.Latin1 ? ", Latin-1" : ", UTF-8") + (form.ByteOrderMark ? " with byte order mark" : "") +
-         (form.CarriageReturns ? ", lines end in CR"
-          : form.CrLf          ? ", lines end in CR LF"
-                               : ", lines end in LF");
+         DescribeLineEnds(form);
 }
 
 }  // namespace veln

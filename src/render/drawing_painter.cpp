@@ -60,7 +60,7 @@ void PaintDrawing(QPainter& painter, const Drawing& drawing, const DrawingFrame&
   };
   const DrawingParts parts = PartsOf(drawing, first);
   paintMarks(parts.Before);
-  if (!parts.Clipped.empty()) {
+  if (drawing.Clip && !parts.Clipped.empty()) {
     painter.save();
     painter.setClipRect(
         QRectF(place.Map(drawing, drawing.Clip->First), place.Map(drawing, drawing.Clip->Second))

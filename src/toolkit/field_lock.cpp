@@ -27,11 +27,11 @@ std::string DescribeHolder(const std::filesystem::path& file)
 
 [[noreturn]] void RefuseField(const FieldPlace& place)
 {
-  std::string holder = "another program";
+  std::string holder;
   try {
     holder = DescribeHolder(FieldLockFile(place));
-  } catch (
-      const Refusal&) {  // it has just ended, or another user's file may not be read: then it stays unnamed
+  } catch (const Refusal&) {
+    holder = "another program";  // it has just ended, or is another user's, whose file may not be read
   }
   throw Refusal("Field " + place.FieldId + " of project " + place.Project + " is in use by " + holder +
                 ". Try again when it has ended.");

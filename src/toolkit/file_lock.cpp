@@ -78,7 +78,7 @@ FileLock::FileLock(const fs::path& file, const std::string& holder, std::chrono:
       continue;
     }
     if (TellHolder(opened, holder)) {
-      held_.reset(new Held{file, std::move(opened), RemovedAtEnd(file)});
+      held_ = std::make_unique<Held>(file, std::move(opened));
       return;
     }
     const int error = errno;

@@ -7,6 +7,7 @@
 #include <filesystem>
 #include <memory>
 #include <string>
+#include <utility>
 
 namespace veln {
 
@@ -39,6 +40,11 @@ class FileLock {
 
  private:
   struct Held {
+    Held(const std::filesystem::path& file, Descriptor opened)
+        : File(file), Opened(std::move(opened)), Removed(file)
+    {
+    }
+
     std::filesystem::path File;
     Descriptor Opened;
     RemovedAtEnd Removed;

@@ -44,8 +44,13 @@ void Write(const fs::path& path, const std::string& content, const OutputTarget&
 /// Removes a file if it is there. A second try is made: what is left behind outlives the set.
 bool Remove(const fs::path& path)
 {
-  const auto gone = [&path] { return unlink(path.c_str()) == 0 || errno == ENOENT; };
-  return gone() || gone();
+  constexpr int Tries = 2;
+  for (int i = 0; i < Tries; ++i) {
+    if (unlink(path.c_str()) == 0 || errno == ENOENT) {
+      return true;
+    }
+  }
+  return false;
 }
 
 /// A file of a set on its way into place.

@@ -102,7 +102,7 @@ FileIdentity IdentityOf(const fs::path& named)
 fs::path AbsolutePath(const fs::path& path)
 {
   std::error_code failure;
-  fs::path whole = fs::absolute(path, failure);
+  const fs::path whole = fs::absolute(path, failure);
   if (failure) {
     RefuseFile("The current directory", "found", failure.value());
   }

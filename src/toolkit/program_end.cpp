@@ -11,16 +11,16 @@ namespace {
 
 // All that a signal's handler touches. Programs that are started from here see none of it: what is handled
 // falls back to its default there, what is ignored would not.
-std::atomic<int> holds = 0;
-std::atomic<int> waiting = 0;  // the signal that came during a hold
-std::atomic<pid_t> program = 0;
-std::array<std::atomic<const char*>, 4> goesAtEnd;
+std::atomic<int> Holds = 0;
+std::atomic<int> Waiting = 0;  // the signal that came during a hold
+std::atomic<pid_t> ProgramId = 0;
+std::array<std::atomic<const char*>, 4> GoesAtEnd;
 
 [[noreturn]] void End(int signal)
 {
   constexpr int Signalled = 128;
-  if (getpid() == program) {  // not between a fork and the start of another program
-    for (const std::atomic<const char*>& file : goesAtEnd) {
+  if (getpid() == ProgramId) {  // not between a fork and the start of another program
+    for (const std::atomic<const char*>& file : GoesAtEnd) {
       if (const char* name = file; name != nullptr) {
         unlink(name);
       }
@@ -31,10 +31,10 @@ std::array<std::atomic<const char*>, 4> goesAtEnd;
 
 void EndOrWait(int signal)
 {
-  if (holds == 0) {
+  if (Holds == 0) {
     End(signal);
   }
-  waiting = signal;
+  Waiting = signal;
 }
 
 void LetTheCallFail(int /*signal*/) {}
@@ -56,7 +56,7 @@ void Handle(int signal, void (*handler)(int))
 
 void EndInOrderOnSignals()
 {
-  program = getpid();
+  ProgramId = getpid();
   for (const int signal : {SIGINT, SIGTERM, SIGHUP}) {
     Handle(signal, EndOrWait);
   }
@@ -78,24 +78,24 @@ void OccupyStandardStreams()
 
 bool EndIsWanted()
 {
-  return waiting != 0;
+  return Waiting != 0;
 }
 
 EndHold::EndHold()
 {
-  ++holds;
+  ++Holds;
 }
 
 EndHold::~EndHold()
 {
-  if (--holds == 0 && waiting != 0) {
-    End(waiting);
+  if (--Holds == 0 && Waiting != 0) {
+    End(Waiting);
   }
 }
 
 RemovedAtEnd::RemovedAtEnd(const std::filesystem::path& file) : file_(file.string())
 {
-  for (std::atomic<const char*>& place : goesAtEnd) {
+  for (std::atomic<const char*>& place : GoesAtEnd) {
     const char* none = nullptr;
     if (place.compare_exchange_strong(none, file_.c_str())) {
       place_ = &place;
