@@ -21,21 +21,21 @@ constexpr std::array<std::uint32_t, 64> RoundConstants = {
 
 using Schedule = std::array<std::uint32_t, 64>;
 
-std::uint32_t BigEndianWord(const char* bytes)
+std::uint32_t BigEndianWord(std::string_view bytes)
 {
   std::uint32_t word = 0;
-  for (int i = 0; i < 4; ++i) {
+  for (std::size_t i = 0; i < 4; ++i) {
     word = word << 8U | static_cast<unsigned char>(bytes[i]);
   }
   return word;
 }
 
 /// The 16 words of a block, then 48 more, each made of four before it.
-Schedule ScheduleOf(const char* block)
+Schedule ScheduleOf(std::string_view block)
 {
   Schedule w{};
   for (std::size_t t = 0; t < 16; ++t) {
-    w[t] = BigEndianWord(block + 4 * t);
+    w[t] = BigEndianWord(block.substr(4 * t));
   }
   for (std::size_t t = 16; t < w.size(); ++t) {
     const std::uint32_t early = w[t - 15];
@@ -48,7 +48,7 @@ Schedule ScheduleOf(const char* block)
 
 }  // namespace
 
-void Sha256::AddBlock(const char* block)
+void Sha256::AddBlock(std::string_view block)
 {
   const Schedule w = ScheduleOf(block);
   auto [a, b, c, d, e, f, g, h] = state_;
@@ -76,7 +76,7 @@ void Sha256::Add(std::string_view bytes)
   allBytes_ += bytes.size();
   while (!bytes.empty()) {
     if (restBytes_ == 0 && bytes.size() >= BlockBytes) {
-      AddBlock(bytes.data());
+      AddBlock(bytes.substr(0, BlockBytes));
       bytes.remove_prefix(BlockBytes);
       continue;
     }
@@ -85,7 +85,7 @@ void Sha256::Add(std::string_view bytes)
     bytes.remove_prefix(taken);
     restBytes_ += taken;
     if (restBytes_ == BlockBytes) {
-      AddBlock(rest_.data());
+      AddBlock({rest_.data(), rest_.size()});
       restBytes_ = 0;
     }
   }
