@@ -162,11 +162,11 @@ void Rearrange(std::vector<Item>& items, std::span<const std::size_t> order)
 {
   auto placed = items.begin();
   for (const std::size_t file : order) {
-    const auto first =
+    const auto part =
         std::find_if(placed, items.end(), [file](const Item& item) { return item.File == file; });
-    const auto last =
-        std::find_if(first, items.end(), [file](const Item& item) { return item.File != file; });
-    placed = std::rotate(placed, first, last);
+    const auto behind =
+        std::find_if(part, items.end(), [file](const Item& item) { return item.File != file; });
+    placed = std::rotate(placed, part, behind);
   }
 }
 
